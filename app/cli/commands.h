@@ -1,0 +1,26 @@
+#pragma once
+
+#include <CLI/CLI.hpp>
+#include <QString>
+#include <functional>
+#include <optional>
+
+#include "l10n/language.h"
+
+// Options every command shares.
+struct GlobalOptions {
+    std::string configDir;  // --config DIR; empty: the usual place
+    std::string lang;       // --lang zh|en; empty: the configuration's language
+
+    std::optional<UiLanguage> language() const;
+};
+
+// Exit statuses of the CLI.
+constexpr int kExitOk = 0;
+constexpr int kExitFailed = 1;    // the radio did not answer, or a check failed
+constexpr int kExitBadInput = 2;  // bad usage or an unreadable file
+
+// Each command registers itself on the app and sets `run` when it is chosen.
+using CommandRunner = std::function<int()>;
+
+void addShowCommand(CLI::App& app, const GlobalOptions& global, CommandRunner& run);

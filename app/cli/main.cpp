@@ -1,0 +1,33 @@
+#include <QCoreApplication>
+#include <cstdio>
+
+#include "cli/commands.h"
+
+std::optional<UiLanguage> GlobalOptions::language() const {
+    if (lang == "zh") return UiLanguage::Chinese;
+    if (lang == "en") return UiLanguage::English;
+    return std::nullopt;
+}
+
+int main(int argc, char** argv) {
+    QCoreApplication application(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("radioprog"));
+
+    CLI::App app{"radioprog-cli: programs the hand-held radio's channel plan from a terminal"};
+    app.require_subcommand(1);
+    GlobalOptions global;
+    app.add_option("--config", global.configDir, "folder that holds config.ini");
+    app.add_option("--lang", global.lang, "language of the output: zh or en")
+        ->check(CLI::IsMember({"zh", "en"}));
+
+    CommandRunner run;
+    addShowCommand(app, global, run);
+
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::ParseError& e) {
+        const int status = app.exit(e);
+        return status == 0 ? kExitOk : kExitBadInput;
+    }
+    return run ? run() : kExitBadInput;
+}

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <QString>
+
+#include "model/codeplug.h"
+#include "model/notice.h"
+
+// Editing rules of the channel grid, as document operations.
+
+// A receive frequency cell changed to `text`: a 9-character text is copied to the transmit
+// cell (and checked there first); "0" becomes the band's lower limit; a text of 7 or more
+// characters outside the band becomes the lower limit, with a warning.
+Notices enterRxFrequency(Codeplug& doc, int slot, const QString& text);
+
+// A transmit frequency cell changed: out-of-band text of 7 or more characters is warned about
+// and kept as typed.
+Notices enterTxFrequency(Codeplug& doc, int slot, const QString& text);
+
+// RESET_FER: puts every receive and transmit frequency on its raster (moving one that is on
+// neither raster down onto the 5 kHz raster), sets RxStepFlags/TxStepFlags and reformats all
+// frequency cells with "000.00000". A text that is not a number is left alone (flag cleared).
+void RESET_FER(Codeplug& doc);
+
+// RESET_TEXT: RESET_FER, then the code cells: a custom-tone cell shows the custom-tone word of
+// the current language with its tone as tool-tip; a "CDCSS" cell shows its DCS memory.
+void RESET_TEXT(Codeplug& doc);
+
+// A code picked for a cell (the text of a picker entry), then RESET_TEXT.
+void setRxCode(Codeplug& doc, int slot, const QString& code);
+void setTxCode(Codeplug& doc, int slot, const QString& code);
+
+// Bandwidth and power toggles; nothing happens while the channels are fixed.
+void toggleBandwidth(Codeplug& doc, int slot);
+void togglePower(Codeplug& doc, int slot);
+
+// Rebuilds the code table for the current `normalmode` and resets every slot's codes, active
+// or not, to "OFF"; then RESET_TEXT. Used after a mode change and by the file readers.
+void rebuildCodeTables(Codeplug& doc);
+
+// The user chose another mode: taken over only when the channels are not fixed.
+// Returns whether it was taken over.
+bool switchMode(Codeplug& doc, int normalmode);
+
+// The user chose another channel count; ignored while the channels are fixed.
+bool setChannelCount(Codeplug& doc, const QString& chtot);
+
+// Switches the language: bandwidth and power cells are rewritten from the start values of the
+// configuration, a professional code table gets the new custom-tone word, and the code cells
+// are redrawn. The settings keep their indices.
+void applyLanguage(Codeplug& doc, UiLanguage language);
