@@ -5,6 +5,7 @@
 #include <variant>
 
 #include "model/codeplug.h"
+#include "model/notice.h"
 
 // The radio's memory image: the 4-byte settings record and the 11- or 13-byte channel record,
 // and their conversion to and from the document. Records are big-endian.
@@ -27,5 +28,6 @@ bool decode_settings(Codeplug& doc, const QByteArray& payload);
 std::variant<QByteArray, EncodeError> encode_channel(const Codeplug& doc, int slot);
 
 // Takes a reply to "R" into one slot. A reply of the wrong length, or whose step counts do not
-// fit 15 bits, leaves the slot unchanged and returns false.
-bool decode_channel(Codeplug& doc, int slot, const QByteArray& payload);
+// fit 15 bits, leaves the slot unchanged and returns false. The receive frequency goes through
+// the grid's entry rule; its warnings, if any, are appended to `notices`.
+bool decode_channel(Codeplug& doc, int slot, const QByteArray& payload, Notices* notices = nullptr);
