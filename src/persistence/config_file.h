@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QString>
+
+#include "l10n/language.h"
+#include "model/startup_config.h"
+#include "persistence/private_profile.h"
+
+// config.ini: the preferences that outlive a run (language, fixed channel table, start channel
+// count and band, a start value per channel). Read once at start-up; a key that is missing is
+// written with its default, so the first start leaves a complete file behind.
+
+enum class ConfigCompletion {
+    SaveMissingKeys,  // the program: the completed file is saved (silently not, when it cannot be)
+    InMemoryOnly,     // read-only tools: the defaults apply but the file is left alone
+};
+
+// Reads, completes and returns the configuration. A file that cannot be read gives the
+// defaults, and one that exists but cannot be read is never overwritten.
+StartupConfig ReadConfigFile(const QString& configPath,
+                             ConfigCompletion completion = ConfigCompletion::SaveMissingKeys);
+
+// The reading steps on a file already in memory: missing keys are written into `profile`.
+StartupConfig readConfigProfile(PrivateProfile& profile);
+
+// Records the language after the user switched it. Only the key "Lang" is written; any other
+// key is ignored. Returns whether the file was saved.
+bool WriteConfigFile(const QString& configPath, const QString& key, UiLanguage language);
+
+// Where config.ini lives: `overrideDir` when given (--config), else the program's folder when it
+// is writable, else the per-user configuration folder.
+QString configFilePath(const QString& overrideDir = QString());
+QString configFilePathIn(const QString& overrideDir, const QString& programDir,
+                         const QString& userConfigDir);

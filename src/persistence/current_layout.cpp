@@ -1,0 +1,105 @@
+// The current codeplug layout: one INI section per channel field, keys numbered with two digits,
+// and a Config section for the settings.
+#include "model/editing.h"
+#include "persistence/codeplug_file.h"
+
+namespace {
+
+struct ChannelSection {
+    const char* section;
+    const char* stem;
+    QString ChannelRecord::*field;
+};
+
+// In writing order. The first six are grid cells, the last four the custom-code memories.
+const ChannelSection kChannelSections[] = {
+    {"Rxfreq", "rxfreq", &ChannelRecord::rxfreq},
+    {"Txfreq", "txfreq", &ChannelRecord::txfreq},
+    {"RxCtc", "rxctc", &ChannelRecord::rxctc},
+    {"TxCtc", "txctc", &ChannelRecord::txctc},
+    {"BAND", "band", &ChannelRecord::band},
+    {"POWER", "power", &ChannelRecord::power},
+    {"RxCtcFreq", "rxctcfreq", &ChannelRecord::rxctcfreq},
+    {"TxCtcFreq", "txctcfreq", &ChannelRecord::txctcfreq},
+    {"RxCdc", "rxcdc", &ChannelRecord::rxcdc},
+    {"TxCdc", "txcdc", &ChannelRecord::txcdc},
+};
+
+const QString kConfig = QStringLiteral("Config");
+const QString kChtot = QStringLiteral("chtot");
+const QString kFreqstep = QStringLiteral("freqstep");
+
+// Config keys are written in this order, with chtot and freqstep between the two groups.
+const SettingKey kSettingsBeforeCounts[] = {
+    SettingKey::freqsel,   SettingKey::normalmode, SettingKey::txen,
+    SettingKey::busytxdis, SettingKey::dtmfen,     SettingKey::voicebrc,
+    SettingKey::sos,       SettingKey::bluetooth,  SettingKey::fm,
+};
+const SettingKey kSettingsAfterCounts[] = {
+    SettingKey::autolock,
+    SettingKey::freqband,
+    SettingKey::tot,
+    SettingKey::agingtest,
+};
+
+// Every setting but normalmode, which is read first because it decides the code table.
+const SettingKey kSettingsReadAfterMode[] = {
+    SettingKey::freqsel,  SettingKey::txen,     SettingKey::busytxdis, SettingKey::dtmfen,
+    SettingKey::voicebrc, SettingKey::sos,      SettingKey::bluetooth, SettingKey::fm,
+    SettingKey::autolock, SettingKey::freqband, SettingKey::tot,       SettingKey::agingtest,
+};
+
+QString slotKey(const char* stem, int slot) {
+    return QLatin1String(stem) + QStringLiteral("%1").arg(slot, 2, 10, QLatin1Char('0'));
+}
+
+}  // namespace
+
+void writeCodeplugKeys(const Codeplug& doc, PrivateProfile& profile) {
+    for (const ChannelSection& s : kChannelSections) {
+        const QString section = QLatin1String(s.section);
+        for (int slot = 0; slot < kSlotCount; ++slot) {
+            profile.write(section, slotKey(s.stem, slot), doc.plan[slot].*s.field);
+        }
+    }
+    const auto writeSetting = [&](SettingKey key) {
+        WritePrivateProfileInt(profile, kConfig, settingKeyName(key), doc.settings[key]);
+    };
+    for (SettingKey key : kSettingsBeforeCounts) writeSetting(key);
+    profile.write(kConfig, kChtot, doc.chtot);
+    profile.write(kConfig, kFreqstep, doc.freqstep);
+    for (SettingKey key : kSettingsAfterCounts) writeSetting(key);
+}
+
+bool holdsCodeplugSection(const PrivateProfile& profile) {
+    if (profile.hasSection(kConfig)) return true;
+    for (const ChannelSection& s : kChannelSections) {
+        if (profile.hasSection(QLatin1String(s.section))) return true;
+    }
+    return false;
+}
+
+void ReadSaveFile(Codeplug& doc, const PrivateProfile& profile) {
+    // The mode first: rebuilding its code table resets every code, so no code of the previous
+    // plan survives into slots the file leaves without one.
+    doc.settings[SettingKey::normalmode] =
+        profile.readInt(kConfig, settingKeyName(SettingKey::normalmode), 0);
+    rebuildCodeTables(doc);
+
+    for (const ChannelSection& s : kChannelSections) {
+        const QString section = QLatin1String(s.section);
+        for (int slot = 0; slot < kSlotCount; ++slot) {
+            doc.plan[slot].*s.field = profile.readString(section, slotKey(s.stem, slot), QString());
+        }
+    }
+    for (SettingKey key : kSettingsReadAfterMode) {
+        doc.settings[key] = profile.readInt(kConfig, settingKeyName(key), 0);
+    }
+    doc.chtot = channelCountFromFile(profile.readString(kConfig, kChtot, QStringLiteral("22")));
+    doc.freqstep = profile.readString(kConfig, kFreqstep, QStringLiteral("100"));
+    RESET_TEXT(doc);
+}
+
+QString channelCountFromFile(const QString& text) {
+    return numericValue(text) > kSlotCount ? QString::number(kSlotCount) : text;
+}
