@@ -24,3 +24,4 @@ constexpr int kExitBadInput = 2;  // bad usage or an unreadable file
 using CommandRunner = std::function<int()>;
 
 void addShowCommand(CLI::App& app, const GlobalOptions& global, CommandRunner& run);
+void addConvertCommand(CLI::App& app, const GlobalOptions& global, CommandRunner& run);

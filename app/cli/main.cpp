@@ -22,6 +22,7 @@ int main(int argc, char** argv) {
 
     CommandRunner run;
     addShowCommand(app, global, run);
+    addConvertCommand(app, global, run);
 
     try {
         app.parse(argc, argv);

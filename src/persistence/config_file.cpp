@@ -113,6 +113,13 @@ StartupConfig ReadConfigFile(const QString& configPath, ConfigCompletion complet
     return config;
 }
 
+Codeplug loadStartupCodeplug(const QString& configPath, ConfigCompletion completion,
+                             std::optional<UiLanguage> language) {
+    StartupConfig config = ReadConfigFile(configPath, completion);
+    if (language) config.language = *language;
+    return buildStartupCodeplug(config);
+}
+
 bool WriteConfigFile(const QString& configPath, const QString& key, UiLanguage language) {
     if (key.compare(kLang, Qt::CaseInsensitive) != 0) return false;
     PrivateProfile profile;

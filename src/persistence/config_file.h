@@ -1,8 +1,10 @@
 #pragma once
 
 #include <QString>
+#include <optional>
 
 #include "l10n/language.h"
+#include "model/codeplug.h"
 #include "model/startup_config.h"
 #include "persistence/private_profile.h"
 
@@ -19,6 +21,12 @@ enum class ConfigCompletion {
 // defaults, and one that exists but cannot be read is never overwritten.
 StartupConfig ReadConfigFile(const QString& configPath,
                              ConfigCompletion completion = ConfigCompletion::SaveMissingKeys);
+
+// The program's start-up document: the configuration read, then the document built from it;
+// `language`, when given, replaces the configured one.
+Codeplug loadStartupCodeplug(const QString& configPath,
+                             ConfigCompletion completion = ConfigCompletion::SaveMissingKeys,
+                             std::optional<UiLanguage> language = std::nullopt);
 
 // The reading steps on a file already in memory: missing keys are written into `profile`.
 StartupConfig readConfigProfile(PrivateProfile& profile);
