@@ -83,4 +83,6 @@ private:
     qint64 pendingOut_ = 0;
 };
 
-inline QByteArray hexBytes(const char* hex) { return QByteArray::fromHex(hex); }
+inline QByteArray hexBytes(const char* hex) {
+    return QByteArray::fromHex(hex);
+}

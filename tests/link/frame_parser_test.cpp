@@ -1,7 +1,8 @@
+#include "link/frame_parser.h"
+
 #include <gtest/gtest.h>
 
 #include "fake_port.h"
-#include "link/frame_parser.h"
 
 namespace {
 

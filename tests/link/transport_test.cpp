@@ -42,7 +42,8 @@ protected:
 TEST_F(TransportTest, SendsOneWritePerByteThenSettlesAndOpensReception) {
     port.drainDelayMs = 3;
     transport.send_uart(hexBytes("450045"));
-    EXPECT_EQ(port.writes, (std::vector<QByteArray>{hexBytes("45"), hexBytes("00"), hexBytes("45")}));
+    EXPECT_EQ(port.writes,
+              (std::vector<QByteArray>{hexBytes("45"), hexBytes("00"), hexBytes("45")}));
     EXPECT_FALSE(port.receiveNotification());
 
     const int discardsBefore = port.discardInputCount;
@@ -87,8 +88,8 @@ TEST_F(TransportTest, GivingUpDuringASessionReportsTheFailure) {
     transport.sendRequest(hexBytes("52030000055a"), 5000);
     clock.advance(5020);
     EXPECT_EQ(prompts.transcript(),
-              QStringList({"status: Transmission ERROR", "box: Transmission Error，Check Radio | NOTE",
-                           "status: COM"}));
+              QStringList({"status: Transmission ERROR",
+                           "box: Transmission Error，Check Radio | NOTE", "status: COM"}));
 }
 
 TEST_F(TransportTest, GivingUpDuringAServiceExchangeStaysQuiet) {

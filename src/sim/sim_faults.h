@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QSet>
+
+// Faults the simulated radio can be told to make. Requests are counted from 1 in the order
+// the radio receives them (frames with a good checksum only), over the radio's whole life.
+struct SimFaults {
+    bool silentAlways = false;
+    QSet<int> silent;       // no reply to these requests
+    QSet<int> badChecksum;  // the reply's checksum is off by one
+    QSet<int> garbage;      // bytes no parser can take come before the reply
+    QSet<int> cutFrame;     // the reply stops after its command byte
+    QSet<int> wrongLength;  // the reply carries one byte too many
+    int hangUpAt = 0;       // the line drops when this request arrives (0: never)
+
+    bool silentFor(int request) const { return silentAlways || silent.contains(request); }
+};

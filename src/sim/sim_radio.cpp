@@ -1,0 +1,160 @@
+#include "sim/sim_radio.h"
+
+#include "link/frame.h"
+#include "sim/sim_memory.h"
+
+namespace {
+
+constexpr quint8 kReadSettings = 0x53;   // "S"
+constexpr quint8 kReadChannel = 0x52;    // "R"
+constexpr quint8 kWriteSettings = 0x58;  // "X"
+constexpr quint8 kWriteChannel = 0x57;   // "W"
+constexpr quint8 kEndWrite = 0x45;       // "E"
+
+constexpr int kAddressBytes = 2;  // block, sub
+constexpr int kSettingsRecordSize = 4;
+constexpr int kShortChannelRecord = 11, kLongChannelRecord = 13;
+
+// No parser can take these: outside the reply command range, and a frame start whose length
+// is too large.
+const QByteArray kGarbage = QByteArray::fromHex("00ff3c497f41ff");
+
+int byteAt(const QByteArray& bytes, int at) {
+    return at < bytes.size() ? static_cast<quint8>(bytes[at]) : -1;
+}
+
+}  // namespace
+
+SimRadio::SimRadio(Clock& clock)
+    : clock_(clock), settings_(initialSettingsRecord()), replyTimer_(clock.createTimer()) {
+    for (int slot = 0; slot < kChannelCount; ++slot) {
+        channels_[static_cast<size_t>(slot)] = initialChannelRecord(slot);
+    }
+    replyTimer_->setCallback([this] { sendDue(); });
+}
+
+SimRadio::~SimRadio() = default;
+
+void SimRadio::receive(const QByteArray& bytes) {
+    for (char byte : bytes) {
+        if (hungUp_) return;
+        feed(static_cast<quint8>(byte));
+    }
+}
+
+void SimRadio::feed(quint8 byte) {
+    const qint64 now = clock_.nowMs();
+    if (!request_.isEmpty() && now - lastByteMs_ > kInterByteTimeoutMs) {
+        note(TraceKind::Dropped, request_, QStringLiteral("incomplete"));
+        request_.clear();
+    }
+    lastByteMs_ = now;
+    request_.append(static_cast<char>(byte));
+
+    if (request_.size() < 2) return;
+    const int length = byteAt(request_, 1);
+    if (length > LinkFrame::kMaxReplyPayload) {
+        note(TraceKind::Dropped, request_, QStringLiteral("length"));
+        request_.clear();
+        return;
+    }
+    if (request_.size() < length + 3) return;
+
+    const QByteArray frame = request_;
+    request_.clear();
+    const auto command = static_cast<quint8>(frame[0]);
+    const QByteArray payload = frame.mid(2, length);
+    if (LinkFrame::checksum(command, payload) != static_cast<quint8>(frame.back())) {
+        note(TraceKind::Dropped, frame, QStringLiteral("checksum"));
+        return;
+    }
+    note(TraceKind::Request, frame);
+    handleRequest(command, payload);
+}
+
+void SimRadio::handleRequest(quint8 command, const QByteArray& payload) {
+    const int request = ++requestCount_;
+    if (faults_.hangUpAt == request) {
+        hungUp_ = true;
+        pending_.clear();
+        replyTimer_->stop();
+        note(TraceKind::HangUp, {});
+        if (hangUp_) hangUp_();
+        return;
+    }
+    // A request the radio does not hear changes nothing.
+    if (faults_.silentFor(request)) return;
+
+    const int block = byteAt(payload, 0);
+    const int size = static_cast<int>(payload.size());
+    const int recordSize = size - kAddressBytes;
+    switch (command) {
+        case kReadSettings:
+            if (size == 3) reply(kRecordReply, settings_);
+            break;
+        case kReadChannel:
+            if (size == 3 && block < kChannelCount) {
+                reply(kRecordReply, channels_[static_cast<size_t>(block)]);
+            }
+            break;
+        case kWriteSettings:
+            if (recordSize == kSettingsRecordSize) {
+                settings_ = payload.mid(kAddressBytes);
+                reply(kAcknowledge, {});
+            }
+            break;
+        case kWriteChannel:
+            if (block < kChannelCount &&
+                (recordSize == kShortChannelRecord || recordSize == kLongChannelRecord)) {
+                channels_[static_cast<size_t>(block)] = payload.mid(kAddressBytes);
+                reply(kAcknowledge, {});
+            }
+            break;
+        case kEndWrite:
+            programmingEnded_ = true;
+            break;
+        default:
+            break;
+    }
+}
+
+void SimRadio::reply(quint8 command, const QByteArray& payload) {
+    const int request = requestCount_;
+    QByteArray body = payload;
+    QString faults;
+    if (faults_.wrongLength.contains(request)) {
+        body.append('\0');
+        faults += QStringLiteral(" wrong-length");
+    }
+    QByteArray bytes = LinkFrame{command, body}.encode();
+    if (faults_.badChecksum.contains(request)) {
+        bytes.back() = static_cast<char>(bytes.back() + 1);
+        faults += QStringLiteral(" bad-checksum");
+    }
+    if (faults_.cutFrame.contains(request)) {
+        bytes.truncate(1);
+        faults += QStringLiteral(" cut");
+    }
+    if (faults_.garbage.contains(request)) {
+        bytes.prepend(kGarbage);
+        faults += QStringLiteral(" garbage");
+    }
+    pending_.push_back({clock_.nowMs() + latencyMs_, bytes, faults.trimmed()});
+    if (!replyTimer_->isActive()) replyTimer_->start(latencyMs_);
+}
+
+void SimRadio::sendDue() {
+    while (!pending_.empty() && pending_.front().dueMs <= clock_.nowMs()) {
+        const PendingReply next = pending_.front();
+        pending_.pop_front();
+        note(TraceKind::Reply, next.bytes, next.note);
+        if (transmit_) transmit_(next.bytes);
+    }
+    if (!pending_.empty()) {
+        replyTimer_->start(static_cast<int>(pending_.front().dueMs - clock_.nowMs()));
+    }
+}
+
+void SimRadio::note(TraceKind kind, const QByteArray& bytes, const QString& text) {
+    if (trace_) trace_(kind, bytes, text);
+}
