@@ -1,0 +1,149 @@
+#include "link/port_control.h"
+
+#include "platform/prompts.h"
+
+using l10n::MessageId;
+
+namespace {
+
+bool isWarnedAbout(PortOpenError error) {
+    return error == PortOpenError::NoSuchPort || error == PortOpenError::PortInUse;
+}
+
+QString comName(int number) {
+    return QStringLiteral("COM%1").arg(number);
+}
+
+}  // namespace
+
+PortControl::PortControl(SerialPort& port, PortCatalogue catalogue, Prompts& prompts,
+                         UiLanguage language)
+    : port_(port), catalogue_(std::move(catalogue)), prompts_(prompts), language_(language) {}
+
+PortOpenError PortControl::Set_Com(int number) {
+    if (port_.isOpen()) port_.close();
+    const QString device = catalogue_.deviceFor(number);
+    if (device.isEmpty()) return PortOpenError::NoSuchPort;
+    const PortOpenError error = port_.open(device);
+    if (error != PortOpenError::None) return error;
+    port_.discardInput();
+    port_.discardOutput();
+    port_.setReceiveNotification(false);  // a sender turns it on when it wants a reply
+    return PortOpenError::None;
+}
+
+void PortControl::com_sel(int number) {
+    const PortOpenError error = Set_Com(number);
+    if (error == PortOpenError::None) {
+        com_check_clr();
+        com_check_set(number);
+        showPortNumber(number);
+        return;
+    }
+    if (!isWarnedAbout(error)) return;
+    warnPortFault();
+    Set_StBar(prompts_, MessageId::MsgPortClosed, language_);
+    com_check_clr();
+    comboText_.clear();
+}
+
+void PortControl::com_check_set(int number) {
+    checkedItem_ = number >= 1 && number <= kScannedPorts ? number : kComxItem;
+    check_ComIndex(number);
+}
+
+void PortControl::check_uart() {
+    comboItems_.clear();
+    comboIndex_ = -1;
+    comboText_.clear();
+    port_.close();
+    for (int number = 1; number <= kScannedPorts; ++number) {
+        const QString device = catalogue_.deviceFor(number);
+        if (device.isEmpty()) continue;
+        if (port_.open(device) == PortOpenError::None) comboItems_ << comName(number);
+        port_.close();
+    }
+    if (!comboItems_.isEmpty()) selectComboItem(0);
+}
+
+bool PortControl::check_ComIndex(int number) {
+    const QString text = comName(number);
+    for (int i = 0; i < std::min<int>(kScannedPorts, comboItems_.size()); ++i) {
+        if (comboItems_.at(i) == text) {
+            selectComboItem(i);
+            return true;
+        }
+    }
+    return false;
+}
+
+int PortControl::get_ComNum(int index) {
+    selectComboItem(index);
+    return comboText_.mid(3).toInt();
+}
+
+void PortControl::Combo18_Click(int index) {
+    port_.close();
+    selectComboItem(index);
+    if (comboIndex_ == -1) return;
+    const int number = comboText_.mid(3).toInt();
+    com_check_clr();
+    Set_Com(number);  // a failure here is passed over, as every step of this choice
+    com_check_set(number);
+    showPortNumber(number);
+}
+
+PortOpenError PortControl::openFirstScannedPort() {
+    check_uart();
+    const int number = get_ComNum(0);
+    const PortOpenError error = Set_Com(number);
+    if (error == PortOpenError::None) com_check_set(number);
+    return error;
+}
+
+int PortControl::comxDialogOpened() {
+    if (checkedItem_ != kComxItem) customPort_ = kComxItem;
+    return customPort_;
+}
+
+void PortControl::comxDialogConfirmed(int index) {
+    selectedPort_ = index;
+    const PortOpenError error = Set_Com(selectedPort_);
+    if (error == PortOpenError::None) {
+        com_check_clr();
+        customPort_ = selectedPort_;
+        checkedItem_ = kComxItem;
+        showPortNumber(selectedPort_);
+        prompts_.showMessage({comName(selectedPort_) + QStringLiteral("  OK"),
+                              l10n::message(MessageId::MsgPortLabel, language_)});
+        return;
+    }
+    if (!isWarnedAbout(error)) return;
+    warnPortFault();
+    Set_StBar(prompts_, MessageId::MsgPortClosed, language_);
+    com_check_clr();
+}
+
+void PortControl::showPortState() {
+    Set_StBar(prompts_, port_.isOpen() ? MessageId::MsgPortOpen : MessageId::MsgPortClosed,
+              language_);
+}
+
+QString PortControl::deviceToolTip(int index) const {
+    if (index < 0 || index >= comboItems_.size()) return {};
+    return catalogue_.deviceFor(comboItems_.at(index).mid(3).toInt());
+}
+
+void PortControl::showPortNumber(int number) {
+    Set_StBar(prompts_, MessageId::MsgPortLabel, language_, QString::number(number));
+}
+
+void PortControl::warnPortFault() {
+    prompts_.showMessage(warningBox(l10n::message(MessageId::MsgPortFault, language_), language_));
+}
+
+void PortControl::selectComboItem(int index) {
+    if (index < 0 || index >= comboItems_.size()) return;  // an empty list selects nothing
+    comboIndex_ = index;
+    comboText_ = comboItems_.at(index);
+}

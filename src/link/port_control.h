@@ -1,0 +1,79 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include "l10n/language.h"
+#include "link/port_catalogue.h"
+#include "platform/serial_port.h"
+
+class Prompts;
+
+// Choosing, probing and opening the one port to the radio, with what the main window shows of
+// it: the port menu's check mark (com1 … com16, or comx for any other number), the port
+// drop-down (Combo18, "COM" + number for each port that opened at the last scan), the "COM X"
+// dialog's choice, and the port texts of the status bar. The widgets only mirror this state.
+class PortControl {
+public:
+    static constexpr int kScannedPorts = 16;
+    static constexpr int kComxItem = 17;         // the menu item for numbers outside 1..16
+    static constexpr int kComxDialogItems = 65;  // "0" .. "64"
+
+    PortControl(SerialPort& port, PortCatalogue catalogue, Prompts& prompts, UiLanguage language);
+
+    void setLanguage(UiLanguage language) { language_ = language; }
+    const PortCatalogue& catalogue() const { return catalogue_; }
+
+    // (Re)opens the port on `number` at 9600,n,8,1 with both queues discarded and receive
+    // events off. The error goes to the caller.
+    PortOpenError Set_Com(int number);
+    // A port chosen from the menu: opened, checked, and shown as "COM5"; a missing or busy
+    // port gets the warning and leaves no menu item checked.
+    void com_sel(int number);
+    void com_check_clr() { checkedItem_ = 0; }
+    void com_check_set(int number);
+    // Probes COM1..COM16 by opening each, refills the drop-down and selects its first item.
+    // The port is closed afterwards.
+    void check_uart();
+    bool check_ComIndex(int number);
+    // Selects drop-down item `index` and returns the number after its "COM".
+    int get_ComNum(int index);
+    // The drop-down's selection changed to `index`; failures pass unnoticed.
+    void Combo18_Click(int index);
+    // The start-up sequence: scan, then open the first port found and check it.
+    PortOpenError openFirstScannedPort();
+
+    // The "COM X" dialog: the item it preselects when opened, and confirming an item.
+    int comxDialogOpened();
+    void comxDialogConfirmed(int index);
+
+    // Timer1: the status bar shows whether the port is open.
+    void showPortState();
+
+    // The menu item checked: 0 none, 1..16 comN, kComxItem comx.
+    int checkedItem() const { return checkedItem_; }
+    const QStringList& comboItems() const { return comboItems_; }
+    int comboIndex() const { return comboIndex_; }
+    QString comboText() const { return comboText_; }
+    // Tool-tip of a drop-down item: the device behind it.
+    QString deviceToolTip(int index) const;
+    int selectedPort() const { return selectedPort_; }
+    int customPort() const { return customPort_; }
+
+private:
+    void showPortNumber(int number);
+    void warnPortFault();
+    void selectComboItem(int index);
+
+    SerialPort& port_;
+    PortCatalogue catalogue_;
+    Prompts& prompts_;
+    UiLanguage language_;
+
+    int checkedItem_ = 0;
+    QStringList comboItems_;
+    int comboIndex_ = -1;
+    QString comboText_;
+    int selectedPort_ = 0;        // SelectedPort
+    int customPort_ = kComxItem;  // CustomPort: 17 until the dialog is first confirmed
+};
