@@ -46,7 +46,9 @@ void LinkTransport::startReceiving() {
     parser_.reset();
 }
 
-void LinkTransport::send_uart(const QByteArray& frame) { transmit(frame, kNoReply); }
+void LinkTransport::send_uart(const QByteArray& frame) {
+    transmit(frame, kNoReply);
+}
 
 void LinkTransport::sendRequest(const QByteArray& frame, int replyIntervalMs) {
     transmit(frame, replyIntervalMs);
@@ -71,7 +73,8 @@ void LinkTransport::transmit(const QByteArray& frame, int replyIntervalMs) {
     replyTimer_->stop();
     pendingInterval_ = replyIntervalMs;
     if (!port_.isOpen()) {
-        prompts_.showMessage(warningBox(l10n::message(MessageId::MsgSetPort, language_), language_));
+        prompts_.showMessage(
+            warningBox(l10n::message(MessageId::MsgSetPort, language_), language_));
         // Nothing goes out; the requester learns of it only by its time-out, as before.
         phase_ = Phase::Settling;
         settleStart_ = clock_.nowMs() - kSettleMs;

@@ -14,6 +14,9 @@ constexpr quint8 kEndWrite = 0x45;       // "E"
 constexpr int kAddressBytes = 2;  // block, sub
 constexpr int kSettingsRecordSize = 4;
 constexpr int kShortChannelRecord = 11, kLongChannelRecord = 13;
+constexpr int kRxCode = 4, kTxCode = 5, kFlags = 6;
+constexpr quint8 kCdcssMarker = 162;
+constexpr char kRxInverted = 0x08, kTxInverted = 0x10;
 
 // No parser can take these: outside the reply command range, and a frame start whose length
 // is too large.
@@ -21,6 +24,16 @@ const QByteArray kGarbage = QByteArray::fromHex("00ff3c497f41ff");
 
 int byteAt(const QByteArray& bytes, int at) {
     return at < bytes.size() ? static_cast<quint8>(bytes[at]) : -1;
+}
+
+// The program writes a custom DCS code as code byte 162 with both inversion flags clear; the
+// radio reports it back as the last entry of the professional list, 162 with its direction's
+// inversion flag.
+QByteArray asReported(QByteArray record) {
+    if (record.size() <= kFlags) return record;
+    if (byteAt(record, kRxCode) == kCdcssMarker) record[kFlags] = record[kFlags] | kRxInverted;
+    if (byteAt(record, kTxCode) == kCdcssMarker) record[kFlags] = record[kFlags] | kTxInverted;
+    return record;
 }
 
 }  // namespace
@@ -94,7 +107,7 @@ void SimRadio::handleRequest(quint8 command, const QByteArray& payload) {
             break;
         case kReadChannel:
             if (size == 3 && block < kChannelCount) {
-                reply(kRecordReply, channels_[static_cast<size_t>(block)]);
+                reply(kRecordReply, asReported(channels_[static_cast<size_t>(block)]));
             }
             break;
         case kWriteSettings:

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QSet>
+#include <QString>
+#include <ostream>
 #include <vector>
 
 #include "platform/clock.h"
@@ -85,4 +87,9 @@ private:
 
 inline QByteArray hexBytes(const char* hex) {
     return QByteArray::fromHex(hex);
+}
+
+// Readable QStrings in test failures.
+inline void PrintTo(const QString& text, std::ostream* os) {
+    *os << '"' << text.toStdString() << '"';
 }

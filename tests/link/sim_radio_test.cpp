@@ -60,7 +60,9 @@ TEST_F(SimRadioTest, KeepsWhatIsWrittenAndAcknowledgesIt) {
     const QByteArray longRecord = hexBytes("1cc11cc1a2a203000102000304");
     EXPECT_EQ(ask(frame(0x57, hexBytes("0700") + longRecord)), hexBytes("410041"));
     EXPECT_EQ(radio.channelRecord(7), longRecord);
-    EXPECT_EQ(ask(frame(0x52, hexBytes("070005"))), frame(0x44, longRecord));
+    // Read back, a custom DCS code carries its inversion flag, as in the professional list.
+    EXPECT_EQ(ask(frame(0x52, hexBytes("070005"))),
+              frame(0x44, hexBytes("1cc11cc1a2a21b000102000304")));
 
     EXPECT_TRUE(ask(hexBytes("450045")).isEmpty());
     EXPECT_TRUE(radio.programmingEnded());

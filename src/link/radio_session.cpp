@@ -1,0 +1,61 @@
+#include "link/radio_session.h"
+
+#include "link/link_messages.h"
+#include "link/link_transport.h"
+#include "link/session_view.h"
+#include "platform/prompts.h"
+
+RadioSession::RadioSession(LinkTransport& transport, Codeplug& doc, Prompts& prompts,
+                           SessionView& view, QObject* parent)
+    : QObject(parent), transport_(transport), doc_(doc), prompts_(prompts), view_(view) {}
+
+RadioSession::~RadioSession() {
+    transport_.release(this);
+}
+
+bool RadioSession::claimLink() {
+    language_ = doc_.language;
+    if (!transport_.acquire(this, LinkUse::Session, language_)) {
+        prompts_.showMessage(warningBox(linkBusyMessage(language_), language_));
+        return false;
+    }
+    running_ = true;
+    progress_ = 0;
+    return true;
+}
+
+void RadioSession::end_session() {
+    progress_ = 0;
+    view_.setSessionButtonsEnabled(true);
+    view_.resumeStatusTimers();
+    view_.hideProgress();
+}
+
+void RadioSession::finish(SessionOutcome outcome) {
+    transport_.release(this);
+    running_ = false;
+    outcome_ = outcome;
+    Q_EMIT finished(outcome);
+}
+
+void RadioSession::advanceProgress(int step) {
+    progress_ += step;
+    view_.setProgress(progress_);
+}
+
+void RadioSession::progressWindowClosed() {
+    transport_.abort();
+    view_.setSessionButtonsEnabled(true);
+    progress_ = 0;
+    view_.setProgress(0);
+    view_.resumeStatusTimers();
+}
+
+void RadioSession::status(l10n::MessageId id) {
+    Set_StBar(prompts_, id, language_);
+}
+
+void RadioSession::box(l10n::MessageId text, std::optional<l10n::MessageId> title) {
+    prompts_.showMessage(
+        {l10n::message(text, language_), title ? l10n::message(*title, language_) : QString()});
+}
