@@ -41,7 +41,9 @@ ManualClock::~ManualClock() {
     for (ManualTimer* timer : timers_) timer->detach();
 }
 
-std::unique_ptr<Timer> ManualClock::createTimer() { return std::make_unique<ManualTimer>(this); }
+std::unique_ptr<Timer> ManualClock::createTimer() {
+    return std::make_unique<ManualTimer>(this);
+}
 
 bool ManualClock::expireNext(qint64 until) {
     ManualTimer* next = nullptr;

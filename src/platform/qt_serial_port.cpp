@@ -57,19 +57,29 @@ void QtSerialPort::close() {
     if (port_.isOpen()) port_.close();
 }
 
-bool QtSerialPort::isOpen() const { return port_.isOpen(); }
+bool QtSerialPort::isOpen() const {
+    return port_.isOpen();
+}
 
-QString QtSerialPort::device() const { return port_.isOpen() ? port_.portName() : QString(); }
+QString QtSerialPort::device() const {
+    return port_.isOpen() ? port_.portName() : QString();
+}
 
 void QtSerialPort::write(const QByteArray& bytes) {
     if (port_.isOpen()) port_.write(bytes);
 }
 
-qint64 QtSerialPort::bytesToWrite() const { return port_.bytesToWrite() + systemOutputQueue(); }
+qint64 QtSerialPort::bytesToWrite() const {
+    return port_.bytesToWrite() + systemOutputQueue();
+}
 
-qint64 QtSerialPort::bytesAvailable() const { return port_.bytesAvailable(); }
+qint64 QtSerialPort::bytesAvailable() const {
+    return port_.bytesAvailable();
+}
 
-QByteArray QtSerialPort::read(qint64 maxBytes) { return port_.read(maxBytes); }
+QByteArray QtSerialPort::read(qint64 maxBytes) {
+    return port_.read(maxBytes);
+}
 
 void QtSerialPort::discardInput() {
     if (port_.isOpen()) port_.clear(QSerialPort::Input);

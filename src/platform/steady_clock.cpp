@@ -22,8 +22,14 @@ private:
 
 }  // namespace
 
-SteadyClock::SteadyClock() { elapsed_.start(); }
+SteadyClock::SteadyClock() {
+    elapsed_.start();
+}
 
-qint64 SteadyClock::nowMs() const { return elapsed_.elapsed(); }
+qint64 SteadyClock::nowMs() const {
+    return elapsed_.elapsed();
+}
 
-std::unique_ptr<Timer> SteadyClock::createTimer() { return std::make_unique<QtTimer>(); }
+std::unique_ptr<Timer> SteadyClock::createTimer() {
+    return std::make_unique<QtTimer>();
+}
