@@ -5,8 +5,9 @@
 
 namespace {
 
-bool sameName(QStringView a, QStringView b) {
-    return a.compare(b, Qt::CaseInsensitive) == 0;
+// Names compare without regard to case; folding them once lets a hash find them.
+QString folded(QStringView name) {
+    return name.toString().toCaseFolded();
 }
 
 // "[name]" with blanks allowed around it; a missing "]" ends the name at the end of the line.
@@ -58,33 +59,42 @@ qint16 leadingInteger(const QString& text) {
     return static_cast<qint16>(std::clamp(value, kLowest, kHighest));
 }
 
-std::optional<PrivateProfile::SectionRange> PrivateProfile::findSection(
-    const QString& section) const {
-    const int count = static_cast<int>(lines_.size());
-    for (int i = 0; i < count; ++i) {
-        const auto name = sectionName(lines_[i]);
-        if (!name || !sameName(*name, section)) continue;
-        int end = i + 1;
-        while (end < count && !sectionName(lines_[end])) ++end;
-        return SectionRange{i, end};
+PrivateProfile::PrivateProfile() : sections_(1) {}
+
+PrivateProfile::PrivateProfile(const QStringList& lines) : sections_(1) {
+    for (const QString& line : lines) {
+        if (const auto name = sectionName(line)) {
+            const QString key = folded(*name);
+            if (!sectionIndex_.contains(key)) {
+                sectionIndex_.insert(key, static_cast<int>(sections_.size()));
+            }
+            sections_.emplace_back();
+        }
+        append(sections_.back(), line);
     }
-    return std::nullopt;
 }
 
-int PrivateProfile::findKey(const SectionRange& range, const QString& key) const {
-    for (int i = range.header + 1; i < range.end; ++i) {
-        const auto entry = entryOf(lines_[i]);
-        if (entry && sameName(entry->key, key)) return i;
+void PrivateProfile::append(Section& section, const QString& line) {
+    section.lines << line;
+    const auto entry = entryOf(line);
+    if (!entry || sectionName(line)) return;
+    const QString key = folded(entry->key);
+    if (!section.keys.contains(key)) {
+        section.keys.insert(key, static_cast<int>(section.lines.size() - 1));
     }
-    return -1;
+}
+
+const PrivateProfile::Section* PrivateProfile::findSection(const QString& name) const {
+    const int index = sectionIndex_.value(folded(name), -1);
+    return index < 0 ? nullptr : &sections_[index];
 }
 
 std::optional<QString> PrivateProfile::read(const QString& section, const QString& key) const {
-    const auto range = findSection(section);
-    if (!range) return std::nullopt;
-    const int line = findKey(*range, key);
+    const Section* found = findSection(section);
+    if (!found) return std::nullopt;
+    const int line = found->keys.value(folded(key), -1);
     if (line < 0) return std::nullopt;
-    QString value = entryOf(lines_[line])->value.toString();
+    QString value = entryOf(found->lines[line])->value.toString();
     value.truncate(kMaxValueLength);
     value.remove(QChar(0));
     if (value.isEmpty()) return std::nullopt;
@@ -103,25 +113,43 @@ qint16 PrivateProfile::readInt(const QString& section, const QString& key, qint1
 
 void PrivateProfile::write(const QString& section, const QString& key, const QString& value) {
     const QString line = key + QLatin1Char('=') + oneLine(value);
-    const auto range = findSection(section);
-    if (!range) {
-        lines_ << QLatin1Char('[') + section + QLatin1Char(']') << line;
+    const QString sectionKey = folded(section);
+    const QString entryKey = folded(key);
+    const int index = sectionIndex_.value(sectionKey, -1);
+    if (index < 0) {
+        sectionIndex_.insert(sectionKey, static_cast<int>(sections_.size()));
+        sections_.emplace_back();
+        append(sections_.back(), QLatin1Char('[') + section + QLatin1Char(']'));
+        append(sections_.back(), line);
         return;
     }
-    const int existing = findKey(*range, key);
+    Section& target = sections_[index];
+    const int existing = target.keys.value(entryKey, -1);
     if (existing >= 0) {
-        lines_[existing] = line;
+        target.lines[existing] = line;
         return;
     }
     // After the section's last line that holds something, so that the blank lines separating it
     // from the next section stay where they are.
-    int insertAt = range->end;
-    while (insertAt > range->header + 1 && lines_[insertAt - 1].trimmed().isEmpty()) --insertAt;
-    lines_.insert(insertAt, line);
+    int insertAt = static_cast<int>(target.lines.size());
+    while (insertAt > 1 && target.lines[insertAt - 1].trimmed().isEmpty()) --insertAt;
+    if (insertAt < target.lines.size()) {
+        for (int& at : target.keys) {
+            if (at >= insertAt) ++at;
+        }
+    }
+    target.lines.insert(insertAt, line);
+    target.keys.insert(entryKey, insertAt);
 }
 
 bool PrivateProfile::hasSection(const QString& section) const {
-    return findSection(section).has_value();
+    return sectionIndex_.contains(folded(section));
+}
+
+QStringList PrivateProfile::lines() const {
+    QStringList all;
+    for (const Section& section : sections_) all += section.lines;
+    return all;
 }
 
 void WritePrivateProfileInt(PrivateProfile& profile, const QString& section, const QString& key,

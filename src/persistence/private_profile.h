@@ -1,9 +1,11 @@
 #pragma once
 
+#include <QHash>
 #include <QString>
 #include <QStringList>
 #include <QtGlobal>
 #include <optional>
+#include <vector>
 
 // An INI text read and written the way the private-profile functions do it:
 // - section and key names compare without regard to case; the first section of a name and the
@@ -19,8 +21,8 @@ class PrivateProfile {
 public:
     static constexpr int kMaxValueLength = 255;
 
-    PrivateProfile() = default;
-    explicit PrivateProfile(QStringList lines) : lines_(std::move(lines)) {}
+    PrivateProfile();
+    explicit PrivateProfile(const QStringList& lines);
 
     std::optional<QString> read(const QString& section, const QString& key) const;
     QString readString(const QString& section, const QString& key, const QString& fallback) const;
@@ -30,17 +32,20 @@ public:
     void write(const QString& section, const QString& key, const QString& value);
 
     bool hasSection(const QString& section) const;
-    const QStringList& lines() const { return lines_; }
+    QStringList lines() const;
 
 private:
-    struct SectionRange {
-        int header = 0;  // line of "[name]"
-        int end = 0;     // first line after the section
+    // A section's lines, its "[name]" header first; the lines before the first header form a
+    // section without a header. Keys map to the first line that holds them.
+    struct Section {
+        QStringList lines;
+        QHash<QString, int> keys;  // case-folded key -> index in `lines`
     };
-    std::optional<SectionRange> findSection(const QString& section) const;
-    int findKey(const SectionRange& range, const QString& key) const;  // -1 when absent
+    void append(Section& section, const QString& line);
+    const Section* findSection(const QString& name) const;
 
-    QStringList lines_;
+    std::vector<Section> sections_;
+    QHash<QString, int> sectionIndex_;  // case-folded name -> first section of that name
 };
 
 // The leading decimal integer of a text (blanks and a sign allowed, 0 when there are no digits),
