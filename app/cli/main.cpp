@@ -23,6 +23,9 @@ int main(int argc, char** argv) {
     CommandRunner run;
     addShowCommand(app, global, run);
     addConvertCommand(app, global, run);
+    addPortsCommand(app, global, run);
+    addReadCommand(app, global, run);
+    addWriteCommand(app, global, run);
 
     try {
         app.parse(argc, argv);

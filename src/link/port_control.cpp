@@ -24,6 +24,10 @@ PortOpenError PortControl::Set_Com(int number) {
     if (port_.isOpen()) port_.close();
     const QString device = catalogue_.deviceFor(number);
     if (device.isEmpty()) return PortOpenError::NoSuchPort;
+    return openDevice(device);
+}
+
+PortOpenError PortControl::openDevice(const QString& device) {
     const PortOpenError error = port_.open(device);
     if (error != PortOpenError::None) return error;
     port_.discardInput();
@@ -91,6 +95,36 @@ void PortControl::Combo18_Click(int index) {
     Set_Com(number);  // a failure here is passed over, as every step of this choice
     com_check_set(number);
     showPortNumber(number);
+}
+
+PortOpenError PortControl::selectDevice(const QString& device) {
+    if (port_.isOpen()) port_.close();
+    const PortOpenError error = openDevice(device);
+    com_check_clr();
+    if (error == PortOpenError::None) {
+        const std::optional<int> number = catalogue_.numberOf(device);
+        if (number) com_check_set(*number);
+        Set_StBar(prompts_, MessageId::MsgPortLabel, language_,
+                  number ? QString::number(*number) : QLatin1Char(' ') + device);
+    } else {
+        warnPortFault();
+        Set_StBar(prompts_, MessageId::MsgPortClosed, language_);
+    }
+    return error;
+}
+
+void PortControl::select(const PortArgument& port, const QString& simulatorDevice) {
+    switch (port.kind) {
+        case PortArgument::Number:
+            com_sel(port.number);
+            return;
+        case PortArgument::Simulator:
+            selectDevice(simulatorDevice);
+            return;
+        case PortArgument::Device:
+            selectDevice(port.device);
+            return;
+    }
 }
 
 PortOpenError PortControl::openFirstScannedPort() {

@@ -40,6 +40,12 @@ public:
     int get_ComNum(int index);
     // The drop-down's selection changed to `index`; failures pass unnoticed.
     void Combo18_Click(int index);
+    // A device given by its path (the command line's --port /dev/pts/4): opened and reported
+    // like a menu choice, named by its number when the catalogue has one. Every failure is
+    // warned about: a path typed by hand deserves an answer.
+    PortOpenError selectDevice(const QString& device);
+    // The port the command line names: a number as from the menu, a path or "sim" as devices.
+    void select(const PortArgument& port, const QString& simulatorDevice);
     // The start-up sequence: scan, then open the first port found and check it.
     PortOpenError openFirstScannedPort();
 
@@ -61,6 +67,7 @@ public:
     int customPort() const { return customPort_; }
 
 private:
+    PortOpenError openDevice(const QString& device);
     void showPortNumber(int number);
     void warnPortFault();
     void selectComboItem(int index);

@@ -1,6 +1,8 @@
 #include "platform/stream_prompts.h"
 
 void StreamPrompts::showStatus(const StatusText& status) {
+    if (status.text == status_) return;
+    status_ = status.text;
     writeLine(QStringLiteral("status: ") + status.text);
 }
 

@@ -5,7 +5,8 @@
 #include "platform/prompts.h"
 
 // Prompts for a terminal: one line per status text or message box, flushed at once so that
-// the lines keep their order with anything else the program prints.
+// the lines keep their order with anything else the program prints. Like the status bar it
+// stands for, it shows a status text again only when it changes.
 //   status: Reading......
 //   message: Read OK
 //   message [NOTE]: Transmission Error，Check Radio
@@ -20,4 +21,5 @@ private:
     void writeLine(const QString& line);
 
     FILE* stream_;
+    QString status_;
 };

@@ -1,0 +1,158 @@
+// The command line against radiosim on a real pseudo-terminal, with real timers.
+
+#include <gtest/gtest.h>
+
+#include <QCoreApplication>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+
+#include "model/code_tables.h"
+#include "model/editing.h"
+#include "persistence/codeplug_file.h"
+
+// Readable QStrings in test failures.
+inline void PrintTo(const QString& text, std::ostream* os) {
+    *os << text.toStdString();
+}
+
+namespace {
+
+struct CliRun {
+    int exitCode = -1;
+    QString out;
+    QString err;
+};
+
+class LinkEndToEnd : public ::testing::Test {
+protected:
+    static void SetUpTestSuite() {
+        static int argc = 1;
+        static char name[] = "link_e2e_test";
+        static char* argv[] = {name, nullptr};
+        if (!QCoreApplication::instance()) new QCoreApplication(argc, argv);
+    }
+
+    void TearDown() override {
+        if (sim_.state() != QProcess::NotRunning) {
+            sim_.terminate();
+            sim_.waitForFinished(5000);
+        }
+    }
+
+    // Starts radiosim with `options` and returns the device it listens on.
+    QString startRadio(const QStringList& options = {}) {
+        sim_.start(QStringLiteral(RADIOSIM_PATH), options);
+        EXPECT_TRUE(sim_.waitForStarted(5000));
+        while (!sim_.canReadLine() && sim_.waitForReadyRead(5000)) {
+        }
+        return QString::fromLocal8Bit(sim_.readLine()).trimmed();
+    }
+
+    CliRun cli(const QStringList& arguments) {
+        QProcess process;
+        process.start(QStringLiteral(CLI_PATH),
+                      QStringList{"--config", dir_.path(), "--lang", "en"} + arguments);
+        EXPECT_TRUE(process.waitForFinished(60'000)) << arguments.join(' ').toStdString();
+        return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
+                QString::fromUtf8(process.readAllStandardError())};
+    }
+
+    QString path(const char* name) const { return dir_.filePath(QString::fromLatin1(name)); }
+
+    // A plan unlike the one the simulated radio starts with, in professional mode.
+    static Codeplug samplePlan() {
+        StartupConfig config;
+        config.language = UiLanguage::English;
+        Codeplug doc = buildStartupCodeplug(config);
+        switchMode(doc, 1);
+        for (int slot = 0; slot < kSlotCount; ++slot) {
+            doc.plan[slot].rxfreq = formatFrequencyValue(440.025 + slot * 0.025);
+            doc.plan[slot].txfreq = formatFrequencyValue(445.0 + slot * 0.00625);
+            doc.plan[slot].rxctc = codeText(doc.codeTable, slot * 10);
+            doc.plan[slot].txctc = codeText(doc.codeTable, 265 - slot * 7);
+        }
+        doc.plan[3].rxctc = kCdcssText;
+        doc.plan[3].rxcdc = "4660";
+        // A record with a custom DCS code has no room for the other code's inversion flag.
+        doc.plan[3].txctc = "D023";
+        doc.plan[4].rxctc = "Custom";
+        doc.plan[4].rxctcfreq = "123.4";
+        doc.plan[5].band = "wide";
+        doc.plan[6].power = "low";
+        doc.chtot = "14";
+        doc.settings[SettingKey::txen] = 1;
+        doc.settings[SettingKey::voicebrc] = 1;
+        doc.settings[SettingKey::tot] = 1;
+        RESET_TEXT(doc);
+        return doc;
+    }
+
+    QTemporaryDir dir_;
+    QProcess sim_;
+};
+
+QStringList lines(const QString& text) {
+    return text.split('\n', Qt::SkipEmptyParts);
+}
+
+TEST_F(LinkEndToEnd, WhatIsWrittenIsReadBack) {
+    ASSERT_FALSE(WriteSaveFile(samplePlan(), path("plan.qzv")).has_value());
+    const QString device = startRadio();
+    ASSERT_TRUE(device.startsWith("/dev/")) << device.toStdString();
+
+    const CliRun write = cli({"write", "--port", device, path("plan.qzv")});
+    EXPECT_EQ(write.exitCode, 0) << write.err.toStdString();
+    QStringList said = lines(write.err).filter(QRegularExpression("^(status|message)"));
+    EXPECT_EQ(said, QStringList({"status: COM " + device, "status: Writing……", "status: Write OK",
+                                 "message: Write OK", "status: COM Open"}));
+
+    const CliRun read = cli({"read", "--port", device, "-o", path("back.qzv")});
+    EXPECT_EQ(read.exitCode, 0) << read.err.toStdString();
+    EXPECT_TRUE(lines(read.err).contains("message: Read OK"));
+
+    const CliRun shown = cli({"show", path("plan.qzv")});
+    ASSERT_EQ(shown.exitCode, 0);
+    EXPECT_EQ(lines(read.out).join('\n'), lines(shown.out).mid(1).join('\n'))
+        << "the plan printed after the read";
+    const CliRun shownBack = cli({"show", path("back.qzv")});
+    EXPECT_EQ(shownBack.out, shown.out);
+}
+
+TEST_F(LinkEndToEnd, ASilentRadioFailsTheReadAfterThreeAttempts) {
+    const QString device = startRadio({"--silent", "all"});
+    const CliRun read = cli({"read", "--port", device});
+    EXPECT_EQ(read.exitCode, 1);
+    EXPECT_TRUE(read.out.isEmpty());
+    EXPECT_TRUE(lines(read.err).contains("message [NOTE]: Transmission Error，Check Radio"));
+}
+
+TEST_F(LinkEndToEnd, AHangUpEndsTheWriteWithThePortClosed) {
+    ASSERT_FALSE(WriteSaveFile(samplePlan(), path("plan.qzv")).has_value());
+    const QString device = startRadio({"--hang-up", "4", "--pace"});
+    const CliRun write = cli({"write", "--port", device, path("plan.qzv")});
+    EXPECT_EQ(write.exitCode, 1);
+    const QStringList said = lines(write.err);
+    EXPECT_TRUE(said.contains("message [NOTE]: Transmission Error，Check Radio"));
+    EXPECT_EQ(said.last(), "status: COM Closed");
+}
+
+TEST_F(LinkEndToEnd, BadUsageAndUnreadableFilesExitWithTwo) {
+    EXPECT_EQ(cli({"read", "--port", "COMX"}).exitCode, 2);
+    EXPECT_EQ(cli({"read"}).exitCode, 2);
+    EXPECT_EQ(cli({"write", "--port", "sim", path("missing.qzv")}).exitCode, 2);
+    // A plan that fails the checks is refused before the port is used.
+    ASSERT_FALSE(WriteSaveFile(buildStartupCodeplug({}), path("empty.qzv")).has_value());
+    const CliRun refused = cli({"write", "--port", "sim", path("empty.qzv")});
+    EXPECT_EQ(refused.exitCode, 1);
+    EXPECT_TRUE(refused.err.contains("Num1Channl Frequency Input error"))
+        << refused.err.toStdString();
+}
+
+TEST_F(LinkEndToEnd, TheInProcessSimulatorServesTheCommandLine) {
+    const CliRun read = cli({"read", "--port", "sim"});
+    EXPECT_EQ(read.exitCode, 0) << read.err.toStdString();
+    EXPECT_TRUE(read.out.contains("446.00625"));
+}
+
+}  // namespace
