@@ -198,20 +198,4 @@ TEST(CodeplugFile, RefusesWhatItCannotReadAndLeavesThePlanAlone) {
     }
 }
 
-TEST(CodeplugFile, ReportsAFileThatCannotBeWritten) {
-    QTemporaryDir dir;
-    const auto error = WriteSaveFile(startupDoc(), dir.filePath("no/such/folder/x.qzv"));
-    ASSERT_TRUE(error.has_value());
-    EXPECT_EQ(error->problem, FileProblem::CannotWrite);
-}
-
-TEST(CodeplugFile, ReplaceModeWritesOnlyTheCodeplug) {
-    QTemporaryDir dir;
-    const QString path = dir.filePath("out.qzv");
-    writeFile(path, readSample("current.qzv"));
-    const Codeplug doc = startupDoc();
-    ASSERT_FALSE(WriteSaveFile(doc, path, SaveMode::ReplaceFile));
-    EXPECT_EQ(fileBytes(path), codeplugFileBytes(doc));
-}
-
 }  // namespace

@@ -64,13 +64,6 @@ TEST_F(ConfigFileTest, FirstStartWritesTheCompleteFile) {
     EXPECT_EQ(bytes(), written);  // a complete file is not touched again
 }
 
-TEST_F(ConfigFileTest, ReadOnlyToolsLeaveTheFileAlone) {
-    const StartupConfig config = ReadConfigFile(path_, ConfigCompletion::InMemoryOnly);
-    EXPECT_FALSE(QFile::exists(path_));
-    EXPECT_EQ(config.maxch, QStringLiteral("22"));
-    EXPECT_EQ(config.presets.bandwidth[24], QStringLiteral("窄带"));
-}
-
 TEST_F(ConfigFileTest, ValuesAreTakenExactlyAsTheyAreWritten) {
     struct Case {
         const char* line;

@@ -110,20 +110,6 @@ TEST(LegacyLayouts, CustomCodesAreShownInTheDocumentsLanguage) {
     }
 }
 
-TEST(LegacyLayouts, OldestLayoutKeepsWhatItDoesNotCarry) {
-    Codeplug doc = startupDoc();
-    doc.plan[2].power = QStringLiteral("小");
-    doc.plan[2].rxcdc = QStringLiteral("D131");
-    doc.settings[SettingKey::tot] = 1;
-    doc.settings[SettingKey::freqband] = 2;
-    ASSERT_TRUE(loadCodeplugData(doc, readSample("v05.qzv"), "v05.qzv").ok());
-    EXPECT_EQ(doc.plan[2].power, QStringLiteral("小"));
-    EXPECT_EQ(doc.plan[2].rxcdc, QStringLiteral("D131"));
-    EXPECT_EQ(doc.plan[0].power, QStringLiteral("大"));
-    EXPECT_EQ(doc.settings[SettingKey::tot], 1);
-    EXPECT_EQ(doc.settings[SettingKey::freqband], 2);
-}
-
 TEST(LegacyLayouts, OldestLayoutsModeGoesThroughTheModeSwitch) {
     // "1:普通模式" asks for normal mode; fixed channels keep professional mode and its table.
     for (bool fixed : {false, true}) {

@@ -121,13 +121,4 @@ TEST(PrivateProfileWrite, ChangesOnlyTheLineItMust) {
     }
 }
 
-TEST(PrivateProfileWrite, WritesIntegersAsPlainDecimalText) {
-    PrivateProfile profile;
-    WritePrivateProfileInt(profile, "Config", "tot", 1);
-    WritePrivateProfileInt(profile, "Config", "freqband", -2);
-    EXPECT_EQ(profile.lines(), (QStringList{QStringLiteral("[Config]"), QStringLiteral("tot=1"),
-                                            QStringLiteral("freqband=-2")}));
-    EXPECT_EQ(profile.readInt("config", "FREQBAND", 0), -2);
-}
-
 }  // namespace
