@@ -4,7 +4,7 @@
 set -euo pipefail
 
 packages=(cmake ninja-build g++ pkg-config qt6-base-dev qt6-serialport-dev
-          libcli11-dev libsimpleini-dev libgtest-dev "$@")
+          libcli11-dev libgtest-dev "$@")
 
 missing=()
 for p in "${packages[@]}"; do
