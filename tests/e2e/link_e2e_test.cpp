@@ -6,6 +6,7 @@
 #include <QProcess>
 #include <QRegularExpression>
 #include <QTemporaryDir>
+#include <csignal>
 
 #include "model/code_tables.h"
 #include "model/editing.h"
@@ -125,6 +126,24 @@ TEST_F(LinkEndToEnd, ASilentRadioFailsTheReadAfterThreeAttempts) {
     EXPECT_EQ(read.exitCode, 1);
     EXPECT_TRUE(read.out.isEmpty());
     EXPECT_TRUE(lines(read.err).contains("message [NOTE]: Transmission Error，Check Radio"));
+}
+
+TEST_F(LinkEndToEnd, AnInterruptCancelsTheReadLikeClosingTheProgressWindow) {
+    const QString device = startRadio({"--silent", "all"});
+    QProcess read;
+    read.setReadChannel(QProcess::StandardError);
+    read.start(QStringLiteral(CLI_PATH), {"--lang", "en", "read", "--port", device});
+    QByteArray err;
+    while (!err.contains("Reading") && read.waitForReadyRead(5000)) {
+        err += read.readAllStandardError();
+    }
+    const qint64 pid = read.processId();
+    ASSERT_GT(pid, 0) << "the read ended before it could be interrupted";
+    ::kill(static_cast<pid_t>(pid), SIGINT);
+    ASSERT_TRUE(read.waitForFinished(10'000));
+    EXPECT_EQ(read.exitCode(), 1);
+    err += read.readAllStandardError();
+    EXPECT_TRUE(lines(QString::fromUtf8(err)).contains("message: Read Error")) << err.toStdString();
 }
 
 TEST_F(LinkEndToEnd, AHangUpEndsTheWriteWithThePortClosed) {

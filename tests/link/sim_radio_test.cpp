@@ -159,22 +159,4 @@ TEST(SimulatedPort, PacesBothDirectionsAtTheLineRate) {
     EXPECT_EQ(port.bytesAvailable(), 7);
 }
 
-TEST(SimulatedPort, OpensOnlyItsOwnDeviceAndReportsAHangUp) {
-    ManualClock clock;
-    SimRadio radio(clock);
-    SimulatedPort port(clock, radio);
-    EXPECT_EQ(port.open("COM3"), PortOpenError::NoSuchPort);
-    ASSERT_EQ(port.open("sim"), PortOpenError::None);
-    EXPECT_EQ(port.open("sim"), PortOpenError::PortInUse);
-
-    SimFaults faults;
-    faults.hangUpAt = 1;
-    radio.setFaults(faults);
-    int failures = 0;
-    QObject::connect(&port, &SerialPort::failed, [&] { ++failures; });
-    port.write(hexBytes("53030000045a"));
-    clock.advance(10);
-    EXPECT_EQ(failures, 1);
-}
-
 }  // namespace

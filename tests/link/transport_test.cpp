@@ -174,13 +174,4 @@ TEST_F(TransportTest, MonitorModeTakesEveryFrame) {
     EXPECT_TRUE(client.replies.empty());
 }
 
-TEST_F(TransportTest, OneExchangeOwnsTheLink) {
-    Client other(clock);
-    EXPECT_FALSE(transport.acquire(&other, LinkUse::Service, UiLanguage::English));
-    transport.release(&other);  // not the owner: no effect
-    EXPECT_TRUE(transport.isBusy());
-    transport.release(&client);
-    EXPECT_TRUE(transport.acquire(&other, LinkUse::Service, UiLanguage::English));
-}
-
 }  // namespace

@@ -60,6 +60,7 @@ TEST_F(WriteSessionTest, WhatWasWrittenReadsBackAsTheSamePlan) {
     RESET_TEXT(doc);
     runWrite();
     ASSERT_EQ(session.outcome(), SessionOutcome::Succeeded);
+    EXPECT_TRUE(requestHex()[3].startsWith("57 0f 02 00 ")) << "a 13-byte record";
     EXPECT_EQ(radio.channelRecord(2).size(), 13);
 
     StartupConfig config;
