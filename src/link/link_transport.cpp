@@ -75,7 +75,7 @@ void LinkTransport::transmit(const QByteArray& frame, int replyIntervalMs) {
     if (!port_.isOpen()) {
         prompts_.showMessage(
             warningBox(l10n::message(MessageId::MsgSetPort, language_), language_));
-        // Nothing goes out; the requester learns of it only by its time-out, as before.
+        // Nothing goes out; the requester learns of it by its time-out.
         phase_ = Phase::Settling;
         settleStart_ = clock_.nowMs() - kSettleMs;
         settleTimer_->start(0);
