@@ -6,6 +6,8 @@
 #include <optional>
 
 #include "l10n/language.h"
+#include "link/port_catalogue.h"
+#include "model/codeplug.h"
 
 // Options every command shares.
 struct GlobalOptions {
@@ -13,6 +15,11 @@ struct GlobalOptions {
     std::string lang;       // --lang zh|en; empty: the configuration's language
 
     std::optional<UiLanguage> language() const;
+    // Where config.ini is, and the start-up document built from it (never rewriting the file).
+    QString configPath() const;
+    Codeplug startupCodeplug() const;
+    // The machine's ports with the numbers config.ini pins.
+    PortCatalogue portCatalogue() const;
 };
 
 // Exit statuses of the CLI.

@@ -16,8 +16,7 @@ struct ConvertArguments {
 int convert(const GlobalOptions& global, const ConvertArguments& files) {
     // An old layout leaves some settings out; they come from the start-up document, as they
     // would when the program opened the file.
-    Codeplug doc = loadStartupCodeplug(configFilePath(QString::fromStdString(global.configDir)),
-                                       ConfigCompletion::InMemoryOnly, global.language());
+    Codeplug doc = global.startupCodeplug();
     QTextStream err(stderr);
     const CodeplugLoadResult loaded = openCodeplugFile(doc, QString::fromStdString(files.in));
     if (!loaded.ok()) {

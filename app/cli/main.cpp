@@ -2,11 +2,24 @@
 #include <cstdio>
 
 #include "cli/commands.h"
+#include "persistence/config_file.h"
 
 std::optional<UiLanguage> GlobalOptions::language() const {
     if (lang == "zh") return UiLanguage::Chinese;
     if (lang == "en") return UiLanguage::English;
     return std::nullopt;
+}
+
+QString GlobalOptions::configPath() const {
+    return configFilePath(QString::fromStdString(configDir));
+}
+
+Codeplug GlobalOptions::startupCodeplug() const {
+    return loadStartupCodeplug(configPath(), ConfigCompletion::InMemoryOnly, language());
+}
+
+PortCatalogue GlobalOptions::portCatalogue() const {
+    return PortCatalogue::fromSystem(readPortPins(configPath()));
 }
 
 int main(int argc, char** argv) {

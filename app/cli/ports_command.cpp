@@ -13,7 +13,7 @@ namespace {
 int listPorts(const GlobalOptions& global) {
     QtSerialPort port;
     StreamPrompts prompts(stderr);
-    PortControl control(port, PortCatalogue::fromSystem(), prompts,
+    PortControl control(port, global.portCatalogue(), prompts,
                         global.language().value_or(UiLanguage::English));
     control.check_uart();
     QTextStream out(stdout);

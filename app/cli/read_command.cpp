@@ -30,8 +30,7 @@ int readRadio(const GlobalOptions& global, const ReadOptions& options) {
         std::fprintf(stderr, "radioprog-cli: --port takes COMn, a device path or sim\n");
         return kExitBadInput;
     }
-    Codeplug doc = loadStartupCodeplug(configFilePath(QString::fromStdString(global.configDir)),
-                                       ConfigCompletion::InMemoryOnly, global.language());
+    Codeplug doc = global.startupCodeplug();
 
     SteadyClock clock;
     StreamPrompts prompts(stderr);
@@ -42,7 +41,7 @@ int readRadio(const GlobalOptions& global, const ReadOptions& options) {
     } else {
         port = std::make_unique<QtSerialPort>();
     }
-    PortControl control(*port, PortCatalogue::fromSystem(), prompts, doc.language);
+    PortControl control(*port, global.portCatalogue(), prompts, doc.language);
     control.select(*portArgument, QString::fromLatin1(SimulatedPort::kDefaultDevice));
 
     LinkTransport transport(*port, clock, prompts, view);

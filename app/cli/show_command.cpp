@@ -21,8 +21,7 @@ QString layoutLine(const CodeplugLoadResult& result) {
 
 int showFile(const GlobalOptions& global, const std::string& file) {
     // A read-only command leaves config.ini as it finds it.
-    Codeplug doc = loadStartupCodeplug(configFilePath(QString::fromStdString(global.configDir)),
-                                       ConfigCompletion::InMemoryOnly, global.language());
+    Codeplug doc = global.startupCodeplug();
     QTextStream out(stdout);
     if (!file.empty()) {
         const CodeplugLoadResult result = openCodeplugFile(doc, QString::fromStdString(file));

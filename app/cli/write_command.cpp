@@ -29,8 +29,7 @@ int writeRadio(const GlobalOptions& global, const WriteOptions& options) {
         std::fprintf(stderr, "radioprog-cli: --port takes COMn, a device path or sim\n");
         return kExitBadInput;
     }
-    Codeplug doc = loadStartupCodeplug(configFilePath(QString::fromStdString(global.configDir)),
-                                       ConfigCompletion::InMemoryOnly, global.language());
+    Codeplug doc = global.startupCodeplug();
     const CodeplugLoadResult loaded = openCodeplugFile(doc, QString::fromStdString(options.file));
     if (!loaded.ok()) {
         QTextStream(stderr) << "radioprog-cli: " << describeFileError(*loaded.error, doc.language)
@@ -47,7 +46,7 @@ int writeRadio(const GlobalOptions& global, const WriteOptions& options) {
     } else {
         port = std::make_unique<QtSerialPort>();
     }
-    PortControl control(*port, PortCatalogue::fromSystem(), prompts, doc.language);
+    PortControl control(*port, global.portCatalogue(), prompts, doc.language);
     control.select(*portArgument, QString::fromLatin1(SimulatedPort::kDefaultDevice));
 
     LinkTransport transport(*port, clock, prompts, view);

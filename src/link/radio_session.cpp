@@ -1,6 +1,6 @@
 #include "link/radio_session.h"
 
-#include "link/link_messages.h"
+#include "l10n/program_texts.h"
 #include "link/link_transport.h"
 #include "link/session_view.h"
 #include "platform/prompts.h"
@@ -16,7 +16,8 @@ RadioSession::~RadioSession() {
 bool RadioSession::claimLink() {
     language_ = doc_.language;
     if (!transport_.acquire(this, LinkUse::Session, language_)) {
-        prompts_.showMessage(warningBox(linkBusyMessage(language_), language_));
+        prompts_.showMessage(
+            warningBox(l10n::programText(l10n::ProgramText::LinkBusy, language_), language_));
         return false;
     }
     running_ = true;

@@ -94,17 +94,23 @@ StartupConfig readConfigProfile(PrivateProfile& profile) {
     return config;
 }
 
+namespace {
+
+// The file's profile; nothing when it exists but cannot be read (then it must not be rewritten).
+std::optional<PrivateProfile> readProfile(const QString& configPath) {
+    if (!QFileInfo::exists(configPath)) return PrivateProfile();
+    auto content = readWholeFile(configPath);
+    if (auto* bytes = std::get_if<QByteArray>(&content))
+        return PrivateProfile(splitLines(decodeFileText(*bytes)));
+    return std::nullopt;
+}
+
+}  // namespace
+
 StartupConfig ReadConfigFile(const QString& configPath, ConfigCompletion completion) {
-    PrivateProfile profile;
-    const bool exists = QFileInfo::exists(configPath);
-    bool readable = !exists;
-    if (exists) {
-        auto content = readWholeFile(configPath);
-        if (auto* bytes = std::get_if<QByteArray>(&content)) {
-            profile = PrivateProfile(splitLines(decodeFileText(*bytes)));
-            readable = true;
-        }
-    }
+    const std::optional<PrivateProfile> read = readProfile(configPath);
+    const bool readable = read.has_value();
+    PrivateProfile profile = read.value_or(PrivateProfile());
     const QStringList before = profile.lines();
     const StartupConfig config = readConfigProfile(profile);
     if (completion == ConfigCompletion::SaveMissingKeys && readable && profile.lines() != before) {
@@ -118,6 +124,19 @@ Codeplug loadStartupCodeplug(const QString& configPath, ConfigCompletion complet
     StartupConfig config = ReadConfigFile(configPath, completion);
     if (language) config.language = *language;
     return buildStartupCodeplug(config);
+}
+
+QMap<int, QString> readPortPins(const QString& configPath) {
+    constexpr int kLastPortNumber = 64;
+    QMap<int, QString> pins;
+    const std::optional<PrivateProfile> profile = readProfile(configPath);
+    if (!profile) return pins;
+    for (int number = 0; number <= kLastPortNumber; ++number) {
+        const std::optional<QString> device =
+            profile->read(QStringLiteral("ports"), QStringLiteral("com%1").arg(number));
+        if (device) pins.insert(number, *device);
+    }
+    return pins;
 }
 
 bool WriteConfigFile(const QString& configPath, const QString& key, UiLanguage language) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QMap>
 #include <QString>
 #include <optional>
 
@@ -30,6 +31,9 @@ Codeplug loadStartupCodeplug(const QString& configPath,
 
 // The reading steps on a file already in memory: missing keys are written into `profile`.
 StartupConfig readConfigProfile(PrivateProfile& profile);
+
+// The [ports] section: port numbers pinned to devices (com3=/dev/ttyUSB0), numbers 0..64.
+QMap<int, QString> readPortPins(const QString& configPath);
 
 // Records the language after the user switched it. Only the key "Lang" is written; any other
 // key is ignored. Returns whether the file was saved.

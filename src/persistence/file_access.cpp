@@ -5,26 +5,23 @@
 #include <QFileInfo>
 #include <QSaveFile>
 
+#include "l10n/program_texts.h"
+
 namespace {
 
 QString reasonText(FileProblem problem, UiLanguage language) {
-    const bool chinese = language == UiLanguage::Chinese;
+    using l10n::ProgramText;
     switch (problem) {
         case FileProblem::CannotOpen:
-            return chinese ? QStringLiteral("无法打开文件")
-                           : QStringLiteral("cannot open the file");
+            return l10n::programText(ProgramText::FileCannotOpen, language);
         case FileProblem::TooLarge:
-            return chinese ? QStringLiteral("文件太大，不是频率文件")
-                           : QStringLiteral("too large for a codeplug file");
+            return l10n::programText(ProgramText::FileTooLarge, language);
         case FileProblem::NotACodeplug:
-            return chinese ? QStringLiteral("不是频率文件（没有可识别的内容）")
-                           : QStringLiteral("not a codeplug file (nothing in it is recognised)");
+            return l10n::programText(ProgramText::FileNotCodeplug, language);
         case FileProblem::UnreadLayout:
-            return chinese ? QStringLiteral("212 行的旧格式无法读取")
-                           : QStringLiteral("an old 212-line layout, which cannot be read");
+            return l10n::programText(ProgramText::FileOld212Lines, language);
         case FileProblem::CannotWrite:
-            return chinese ? QStringLiteral("无法写入文件")
-                           : QStringLiteral("cannot write the file");
+            return l10n::programText(ProgramText::FileCannotWrite, language);
     }
     return QString();
 }

@@ -160,6 +160,13 @@ TEST_F(ConfigFileTest, Utf8FilesAreReadAndRewrittenInGbk) {
     EXPECT_EQ(bytes(), encodeFileText(joinLines(completeDefaultFile())));
 }
 
+TEST_F(ConfigFileTest, PortsSectionPinsNumbersToDevices) {
+    writeLines({"[Ports]", "COM3=/dev/ttyUSB0", "com17=/dev/ttyACM1", "com5=", "com65=/dev/x"});
+    const QMap<int, QString> pins = readPortPins(path_);
+    EXPECT_EQ(pins, (QMap<int, QString>{{3, "/dev/ttyUSB0"}, {17, "/dev/ttyACM1"}}));
+    EXPECT_TRUE(readPortPins(dir_.filePath("missing.ini")).isEmpty());
+}
+
 TEST(ConfigLocation, OverrideThenProgramFolderThenUserFolder) {
     QTemporaryDir program;
     const QString user = program.filePath("user");

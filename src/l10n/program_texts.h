@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QString>
+
+#include "l10n/language.h"
+
+// Texts this program adds to the radio program's four tables, for situations those tables have
+// no words for (refused files, a busy link). Kept here so that every text a user sees lives in
+// one place.
+namespace l10n {
+
+enum class ProgramText {
+    LinkBusy,  // a second exchange started while one runs
+    FileCannotOpen,
+    FileTooLarge,
+    FileNotCodeplug,  // nothing in it is a codeplug section or an old layout
+    FileOld212Lines,  // the old 212-line layout, which is never read
+    FileCannotWrite,
+};
+
+QString programText(ProgramText id, UiLanguage language);
+
+}  // namespace l10n
