@@ -43,6 +43,15 @@ std::optional<Notice> WriteSession::checkFrequencies(const Codeplug& doc) {
     return std::nullopt;
 }
 
+std::optional<Notice> WriteSession::checkEncodable(const Codeplug& doc) {
+    for (int slot = 0; slot < kSlotCount; ++slot) {
+        if (std::holds_alternative<EncodeError>(encode_channel(doc, slot))) {
+            return Notice{MessageId::MsgChannelFreqError, slot + 1};
+        }
+    }
+    return std::nullopt;
+}
+
 bool WriteSession::start() {
     if (isRunning()) return false;
     // Every slot goes to the radio, active or not, so every slot must hold a valid pair.
@@ -55,6 +64,7 @@ bool WriteSession::start() {
         RESET_TEXT(doc_);
         fault = checkFrequencies(doc_);
     }
+    if (!fault) fault = checkEncodable(doc_);
     if (fault) {
         prompts_.showMessage(warningBox(noticeText(*fault, doc_.language), doc_.language));
         return false;

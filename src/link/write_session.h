@@ -28,6 +28,10 @@ public:
     // outside [L, L + 100]. Each check runs over all slots before the next.
     static std::optional<Notice> checkEmptyFrequencies(const Codeplug& doc);
     static std::optional<Notice> checkFrequencies(const Codeplug& doc);
+    // Last, every channel record is built once: a slot that cannot be (a transmit frequency
+    // below the band, a custom value too large) refuses the write before anything is sent,
+    // rather than ending it half written.
+    static std::optional<Notice> checkEncodable(const Codeplug& doc);
 
     void replyReceived(const QByteArray& payload) override;
     void replyTimedOut(bool gaveUp) override;
