@@ -4,7 +4,9 @@
 
 namespace {
 
-QString column(const QString& text, int width) { return text.leftJustified(width); }
+QString column(const QString& text, int width) {
+    return text.leftJustified(width);
+}
 
 }  // namespace
 
@@ -18,8 +20,8 @@ void printCodeplug(QTextStream& out, const Codeplug& doc) {
         << l10n::caption(46, lang) << '\n';
     for (int slot = 0; slot < kSlotCount; ++slot) {
         const ChannelRecord& ch = doc.plan[slot];
-        out << QStringLiteral("%1 %2 ").arg(slot + 1, 2).arg(editable[slot] ? '*' : '-')
-            << "   " << column(ch.rxfreq, 14) << column(ch.rxctc, 10) << column(ch.txfreq, 14)
+        out << QStringLiteral("%1 %2 ").arg(slot + 1, 2).arg(editable[slot] ? '*' : '-') << "   "
+            << column(ch.rxfreq, 14) << column(ch.rxctc, 10) << column(ch.txfreq, 14)
             << column(ch.txctc, 10) << column(ch.band, 10) << ch.power << '\n';
     }
     out << "(* active, - inactive)\n\n";
@@ -27,7 +29,7 @@ void printCodeplug(QTextStream& out, const Codeplug& doc) {
     out << l10n::caption(48, lang) << ": " << doc.chtot << '\n';
     out << l10n::caption(49, lang) << ": " << doc.freqstep << '\n';
     for (SettingKey key : kAllSettings) {
-        out << settingLabel(key, lang) << " (" << settingKeyName(key) << "): "
-            << Show_Combo(key, doc.settings[key], lang) << '\n';
+        out << settingLabel(key, lang) << " (" << settingKeyName(key)
+            << "): " << Show_Combo(key, doc.settings[key], lang) << '\n';
     }
 }

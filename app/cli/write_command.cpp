@@ -1,19 +1,10 @@
 #include <QTextStream>
-#include <cstdio>
 #include <memory>
 
 #include "cli/commands.h"
-#include "link/console_session_view.h"
-#include "link/link_transport.h"
-#include "link/port_control.h"
-#include "link/session_runner.h"
+#include "cli/radio_command.h"
 #include "link/write_session.h"
 #include "persistence/codeplug_file.h"
-#include "persistence/config_file.h"
-#include "platform/qt_serial_port.h"
-#include "platform/steady_clock.h"
-#include "platform/stream_prompts.h"
-#include "sim/simulated_radio_port.h"
 
 namespace {
 
@@ -23,12 +14,8 @@ struct WriteOptions {
 };
 
 int writeRadio(const GlobalOptions& global, const WriteOptions& options) {
-    const std::optional<PortArgument> portArgument =
-        PortArgument::parse(QString::fromStdString(options.port));
-    if (!portArgument) {
-        std::fprintf(stderr, "radioprog-cli: --port takes COMn, a device path or sim\n");
-        return kExitBadInput;
-    }
+    const std::optional<PortArgument> port = parsePortOption(options.port);
+    if (!port) return kExitBadInput;
     Codeplug doc = global.startupCodeplug();
     const CodeplugLoadResult loaded = openCodeplugFile(doc, QString::fromStdString(options.file));
     if (!loaded.ok()) {
@@ -36,23 +23,11 @@ int writeRadio(const GlobalOptions& global, const WriteOptions& options) {
                             << '\n';
         return kExitBadInput;
     }
-
-    SteadyClock clock;
-    StreamPrompts prompts(stderr);
-    ConsoleSessionView view(stderr);
-    std::unique_ptr<SerialPort> port;
-    if (portArgument->kind == PortArgument::Simulator) {
-        port = SimulatedRadioPort::create(clock);
-    } else {
-        port = std::make_unique<QtSerialPort>();
-    }
-    PortControl control(*port, global.portCatalogue(), prompts, doc.language);
-    control.select(*portArgument, QString::fromLatin1(SimulatedPort::kDefaultDevice));
-
-    LinkTransport transport(*port, clock, prompts, view);
-    WriteSession session(transport, doc, prompts, view);
-    const SessionOutcome outcome = runToEnd(session, [&] { return session.start(); });
-    if (outcome != SessionOutcome::Refused) control.showPortState();
+    const SessionOutcome outcome =
+        runSessionOnPort(global, *port, doc.language,
+                         [&doc](LinkTransport& link, Prompts& prompts, SessionView& view) {
+                             return std::make_unique<WriteSession>(link, doc, prompts, view);
+                         });
     return outcome == SessionOutcome::Succeeded ? kExitOk : kExitFailed;
 }
 

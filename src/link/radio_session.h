@@ -30,6 +30,9 @@ public:
 
     bool isRunning() const { return running_; }
     SessionOutcome outcome() const { return outcome_; }
+    // The read or write command; false when it could not start (port closed, a check failed,
+    // link busy), after telling the user why.
+    virtual bool start() = 0;
     // The user closed the progress window.
     virtual void cancel() = 0;
 

@@ -17,7 +17,7 @@ public:
                 QObject* parent = nullptr);
 
     // The read command. False when it could not start (port closed, link busy).
-    bool start();
+    bool start() override;
     void cancel() override;
 
     void replyReceived(const QByteArray& payload) override;

@@ -20,7 +20,7 @@ public:
                  QObject* parent = nullptr);
 
     // The write command. False when it could not start (a check failed, link busy).
-    bool start();
+    bool start() override;
     void cancel() override;
 
     // The first slot whose frequencies may not be written, as the box that says so: an empty
