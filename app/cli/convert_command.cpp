@@ -1,8 +1,7 @@
-#include <QTextStream>
-#include <cstdio>
 #include <memory>
 
 #include "cli/commands.h"
+#include "cli/file_arguments.h"
 #include "persistence/codeplug_file.h"
 #include "persistence/config_file.h"
 
@@ -17,19 +16,11 @@ int convert(const GlobalOptions& global, const ConvertArguments& files) {
     // An old layout leaves some settings out; they come from the start-up document, as they
     // would when the program opened the file.
     Codeplug doc = global.startupCodeplug();
-    QTextStream err(stderr);
-    const CodeplugLoadResult loaded = openCodeplugFile(doc, QString::fromStdString(files.in));
-    if (!loaded.ok()) {
-        err << "radioprog-cli: " << describeFileError(*loaded.error, doc.language) << '\n';
-        return kExitBadInput;
-    }
+    if (!loadCodeplugArgument(doc, files.in)) return kExitBadInput;
     // The output holds the codeplug alone, whatever a file of that name held before.
     const auto failed =
         WriteSaveFile(doc, QString::fromStdString(files.out), SaveMode::ReplaceFile);
-    if (failed) {
-        err << "radioprog-cli: " << describeFileError(*failed, doc.language) << '\n';
-        return kExitFailed;
-    }
+    if (failed) return reportFileError(*failed, doc.language, kExitFailed);
     return kExitOk;
 }
 

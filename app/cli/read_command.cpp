@@ -2,6 +2,7 @@
 #include <memory>
 
 #include "cli/commands.h"
+#include "cli/file_arguments.h"
 #include "cli/plan_printer.h"
 #include "cli/radio_command.h"
 #include "link/read_session.h"
@@ -31,9 +32,7 @@ int readRadio(const GlobalOptions& global, const ReadOptions& options) {
     if (!options.output.empty()) {
         const QString path = QString::fromStdString(options.output);
         if (const std::optional<FileError> error = WriteSaveFile(doc, path)) {
-            QTextStream(stderr) << "radioprog-cli: " << describeFileError(*error, doc.language)
-                                << '\n';
-            return kExitBadInput;
+            return reportFileError(*error, doc.language, kExitBadInput);
         }
     }
     return kExitOk;

@@ -1,8 +1,8 @@
 #include <QTextStream>
-#include <cstdio>
 #include <memory>
 
 #include "cli/commands.h"
+#include "cli/file_arguments.h"
 #include "cli/plan_printer.h"
 #include "model/codeplug.h"
 #include "persistence/codeplug_file.h"
@@ -24,13 +24,9 @@ int showFile(const GlobalOptions& global, const std::string& file) {
     Codeplug doc = global.startupCodeplug();
     QTextStream out(stdout);
     if (!file.empty()) {
-        const CodeplugLoadResult result = openCodeplugFile(doc, QString::fromStdString(file));
-        if (!result.ok()) {
-            QTextStream(stderr) << "radioprog-cli: "
-                                << describeFileError(*result.error, doc.language) << '\n';
-            return kExitBadInput;
-        }
-        out << layoutLine(result) << "\n\n";
+        const std::optional<CodeplugLoadResult> loaded = loadCodeplugArgument(doc, file);
+        if (!loaded) return kExitBadInput;
+        out << layoutLine(*loaded) << "\n\n";
     }
     printCodeplug(out, doc);
     return kExitOk;

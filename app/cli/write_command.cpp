@@ -1,7 +1,7 @@
-#include <QTextStream>
 #include <memory>
 
 #include "cli/commands.h"
+#include "cli/file_arguments.h"
 #include "cli/radio_command.h"
 #include "link/write_session.h"
 #include "persistence/codeplug_file.h"
@@ -17,12 +17,7 @@ int writeRadio(const GlobalOptions& global, const WriteOptions& options) {
     const std::optional<PortArgument> port = parsePortOption(options.port);
     if (!port) return kExitBadInput;
     Codeplug doc = global.startupCodeplug();
-    const CodeplugLoadResult loaded = openCodeplugFile(doc, QString::fromStdString(options.file));
-    if (!loaded.ok()) {
-        QTextStream(stderr) << "radioprog-cli: " << describeFileError(*loaded.error, doc.language)
-                            << '\n';
-        return kExitBadInput;
-    }
+    if (!loadCodeplugArgument(doc, options.file)) return kExitBadInput;
     const SessionOutcome outcome =
         runSessionOnPort(global, *port, doc.language,
                          [&doc](LinkTransport& link, Prompts& prompts, SessionView& view) {
