@@ -2,13 +2,10 @@
 
 #include <iterator>
 
+#include "l10n/text_pair.h"
+
 namespace l10n {
 namespace {
-
-struct TextPair {
-    const char* chinese;
-    const char* english;
-};
 
 // In the order of ProgramText.
 const TextPair kProgramTexts[] = {
@@ -26,8 +23,7 @@ static_assert(std::size(kProgramTexts) == static_cast<int>(ProgramText::FileCann
 }  // namespace
 
 QString programText(ProgramText id, UiLanguage language) {
-    const TextPair& pair = kProgramTexts[static_cast<int>(id)];
-    return QString::fromUtf8(language == UiLanguage::Chinese ? pair.chinese : pair.english);
+    return lookUp(kProgramTexts, static_cast<int>(id), language);
 }
 
 }  // namespace l10n

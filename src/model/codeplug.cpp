@@ -5,7 +5,9 @@
 
 #include "model/code_tables.h"
 
-BandLimits Codeplug::bandLimits() const { return BandLimits::forBand(settings[SettingKey::freqband]); }
+BandLimits Codeplug::bandLimits() const {
+    return BandLimits::forBand(settings[SettingKey::freqband]);
+}
 
 int Codeplug::activeChannelCount() const {
     const double value = numericValue(chtot);
@@ -24,17 +26,24 @@ Codeplug buildStartupCodeplug(const StartupConfig& config) {
         ChannelRecord& ch = doc.plan[slot];
         ch.rxctc = ch.txctc = config.presets.code[slot];
         ch.rxfreq = ch.txfreq = formatFrequency(config.presets.frequency[slot]);
-        ch.band = isNarrowWord(config.presets.bandwidth[slot]) ? narrowWord(doc.language)
-                                                               : wideWord(doc.language);
-        ch.power = isHighPowerWord(config.presets.power[slot]) ? highPowerWord(doc.language)
-                                                               : lowPowerWord(doc.language);
     }
+    applyPresetWords(doc);
 
     doc.settings[SettingKey::freqsel] = 3;  // "4:custom"
     doc.settings[SettingKey::normalmode] = config.channelsFixed ? 1 : 0;
     doc.chtot = config.maxch;
     doc.codeTable = buildCodeTable(doc.settings[SettingKey::normalmode], doc.language);
     return doc;
+}
+
+void applyPresetWords(Codeplug& doc) {
+    for (int slot = 0; slot < kSlotCount; ++slot) {
+        ChannelRecord& ch = doc.plan[slot];
+        ch.band = isNarrowWord(doc.presets.bandwidth[slot]) ? narrowWord(doc.language)
+                                                            : wideWord(doc.language);
+        ch.power = isHighPowerWord(doc.presets.power[slot]) ? highPowerWord(doc.language)
+                                                            : lowPowerWord(doc.language);
+    }
 }
 
 std::array<bool, kSlotCount> RESET_Ch_Sel(const Codeplug& doc) {

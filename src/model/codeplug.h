@@ -36,5 +36,9 @@ struct Codeplug {
 // settings, code tables; RESET_Ch_Sel is derived from `chtot`.
 Codeplug buildStartupCodeplug(const StartupConfig& config);
 
+// The bandwidth and power cells of every slot from the configuration's start values, in the
+// document's language (at start-up and when the language changes).
+void applyPresetWords(Codeplug& doc);
+
 // RESET_Ch_Sel: which slots are editable (0 .. chtot-1).
 std::array<bool, kSlotCount> RESET_Ch_Sel(const Codeplug& doc);

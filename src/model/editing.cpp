@@ -141,13 +141,7 @@ bool setChannelCount(Codeplug& doc, const QString& chtot) {
 void applyLanguage(Codeplug& doc, UiLanguage language) {
     doc.language = language;
     // The bandwidth and power columns go back to the configuration's start values.
-    for (int slot = 0; slot < kSlotCount; ++slot) {
-        ChannelRecord& ch = doc.plan[slot];
-        ch.band = isNarrowWord(doc.presets.bandwidth[slot]) ? narrowWord(language)
-                                                            : wideWord(language);
-        ch.power = isHighPowerWord(doc.presets.power[slot]) ? highPowerWord(language)
-                                                            : lowPowerWord(language);
-    }
+    applyPresetWords(doc);
     if (doc.settings[SettingKey::normalmode] == 1) doc.codeTable = ProfessionalCodeTable(language);
     RESET_TEXT(doc);
 }
