@@ -46,7 +46,6 @@ public:
 
     // Start of a session: input discarded, reception on, parser back to AwaitCommand.
     void startReceiving();
-    void resetParser() { parser_.reset(); }
 
     // send_uart: transmits `frame` (at most 33 bytes); the owner hears sendFinished().
     void send_uart(const QByteArray& frame);
@@ -63,7 +62,6 @@ public:
     int attemptCount() const { return attemptCount_; }
     bool giveUp() const { return giveUp_; }
     bool replyTimedOut() const { return replyTimedOut_; }
-    bool awaitingReply() const { return phase_ == Phase::AwaitingReply; }
 
     // Text-line replies for one request (the receive path stores bytes up to a carriage return).
     void setLineMode(bool on) { parser_.setLineMode(on); }

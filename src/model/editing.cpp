@@ -95,16 +95,6 @@ void RESET_TEXT(Codeplug& doc) {
     }
 }
 
-void setRxCode(Codeplug& doc, int slot, const QString& code) {
-    doc.plan[slot].rxctc = code;
-    RESET_TEXT(doc);
-}
-
-void setTxCode(Codeplug& doc, int slot, const QString& code) {
-    doc.plan[slot].txctc = code;
-    RESET_TEXT(doc);
-}
-
 void toggleBandwidth(Codeplug& doc, int slot) {
     if (doc.channelsFixed) return;
     QString& band = doc.plan[slot].band;

@@ -25,10 +25,6 @@ void RESET_FER(Codeplug& doc);
 // the current language with its tone as tool-tip; a "CDCSS" cell shows its DCS memory.
 void RESET_TEXT(Codeplug& doc);
 
-// A code picked for a cell (the text of a picker entry), then RESET_TEXT.
-void setRxCode(Codeplug& doc, int slot, const QString& code);
-void setTxCode(Codeplug& doc, int slot, const QString& code);
-
 // Bandwidth and power toggles; nothing happens while the channels are fixed.
 void toggleBandwidth(Codeplug& doc, int slot);
 void togglePower(Codeplug& doc, int slot);
