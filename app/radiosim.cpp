@@ -2,40 +2,19 @@
 // first line of its output and answers the programming protocol until it is stopped (or
 // hangs up when told to).
 
-#include <sys/socket.h>
-#include <unistd.h>
-
 #include <CLI/CLI.hpp>
 #include <QCoreApplication>
 #include <QFile>
-#include <QSocketNotifier>
 #include <QTextStream>
 #include <csignal>
 #include <cstdio>
 
+#include "common/signal_notifier.h"
 #include "platform/steady_clock.h"
 #include "sim/pty_radio_host.h"
 #include "sim/sim_radio.h"
 
 namespace {
-
-int signalPipe[2] = {-1, -1};
-
-void onSignal(int) {
-    const char byte = 1;
-    const ssize_t written = ::write(signalPipe[1], &byte, 1);
-    (void)written;
-}
-
-// SIGINT and SIGTERM end the event loop, so that the trace is complete.
-void quitOnSignals() {
-    if (::socketpair(AF_UNIX, SOCK_STREAM, 0, signalPipe) != 0) return;
-    auto* notifier =
-        new QSocketNotifier(signalPipe[0], QSocketNotifier::Read, QCoreApplication::instance());
-    QObject::connect(notifier, &QSocketNotifier::activated, [] { QCoreApplication::quit(); });
-    std::signal(SIGINT, onSignal);
-    std::signal(SIGTERM, onSignal);
-}
 
 QSet<int> requestSet(const std::vector<int>& requests) {
     return QSet<int>(requests.begin(), requests.end());
@@ -123,7 +102,9 @@ int main(int argc, char** argv) {
     }
     QObject::connect(&host, &PtyRadioHost::hungUp, &application, &QCoreApplication::quit,
                      Qt::QueuedConnection);
-    quitOnSignals();
+    // SIGINT and SIGTERM end the event loop, so that the trace is complete.
+    SignalNotifier stop({SIGINT, SIGTERM});
+    QObject::connect(&stop, &SignalNotifier::raised, &application, &QCoreApplication::quit);
 
     std::printf("%s\n", qPrintable(host.devicePath()));
     std::fflush(stdout);

@@ -2,10 +2,10 @@
 
 #include <cstdio>
 
-#include "link/console_session_view.h"
+#include "cli/console_session_view.h"
+#include "cli/session_runner.h"
 #include "link/link_transport.h"
 #include "link/port_control.h"
-#include "link/session_runner.h"
 #include "platform/qt_serial_port.h"
 #include "platform/steady_clock.h"
 #include "platform/stream_prompts.h"
@@ -31,7 +31,8 @@ SessionOutcome runSessionOnPort(const GlobalOptions& global, const PortArgument&
     PortControl control(*port, global.portCatalogue(), prompts, language);
     control.select(portArgument, QString::fromLatin1(SimulatedPort::kDefaultDevice));
 
-    LinkTransport transport(*port, clock, prompts, view);
+    LinkTransport transport(*port, clock);
+    QObject::connect(&transport, &LinkTransport::portLost, [&control] { control.portLost(); });
     const std::unique_ptr<RadioSession> session = makeSession(transport, prompts, view);
     const SessionOutcome outcome = runToEnd(*session, [&] { return session->start(); });
     if (outcome != SessionOutcome::Refused) control.showPortState();

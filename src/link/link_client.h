@@ -1,23 +1,34 @@
 #pragma once
 
 #include <QByteArray>
+#include <QString>
 
-// The one exchange that owns the link at a time: a read or write session, or a service panel.
-// The transport reports back to it alone.
+// Why an exchange ended without its reply.
+struct LinkFailure {
+    enum Kind {
+        GaveUp,    // every attempt timed out
+        PortLost,  // the port failed under the exchange and has been closed
+    };
+    Kind kind = GaveUp;
+    QString detail;  // the system's words for a lost port
+};
+
+// The one exchange that owns the link at a time: a read or write session, a service exchange
+// or the boot loader. The transport reports the outcome of each request to it alone and shows
+// nothing itself; what the user sees of an outcome is the owner's business.
 class LinkClient {
 public:
     virtual ~LinkClient() = default;
 
     // A reply arrived: the payload of a good frame, or in line mode the whole line buffer.
     virtual void replyReceived(const QByteArray& payload) = 0;
-    // The reply timer expired. When `gaveUp`, the attempts are used up (or the port failed) and
-    // the transport has already done the give-up clean-up and reported it; otherwise the owner
-    // may send again.
-    virtual void replyTimedOut(bool gaveUp) = 0;
+    // Attempt `attempt` (1-based) timed out and the transport is sending the request again.
+    virtual void attemptTimedOut(int attempt) { (void)attempt; }
+    // The request ended without a reply; the link is idle and the owner decides what follows.
+    virtual void exchangeFailed(const LinkFailure& failure) = 0;
+    // A request could not go out because the port is closed. The transport goes on as if it
+    // had (the attempts then time out), as the radio's tool always has.
+    virtual void portClosedOnSend() {}
     // A frame sent without awaiting a reply has gone out (drained and settled).
     virtual void sendFinished() {}
 };
-
-// Who owns the link decides what a give-up reports: only a read or write session shows the
-// "check the radio" box and gives the session buttons back.
-enum class LinkUse { Session, Service };

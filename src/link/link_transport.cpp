@@ -1,18 +1,13 @@
 #include "link/link_transport.h"
 
-#include "link/session_view.h"
-#include "platform/prompts.h"
+#include <algorithm>
+
 #include "platform/serial_port.h"
 
-using l10n::MessageId;
-
-LinkTransport::LinkTransport(SerialPort& port, Clock& clock, Prompts& prompts, SessionView& view,
-                             QObject* parent)
+LinkTransport::LinkTransport(SerialPort& port, Clock& clock, QObject* parent)
     : QObject(parent),
       port_(port),
       clock_(clock),
-      prompts_(prompts),
-      view_(view),
       replyTimer_(clock.createTimer()),
       settleTimer_(clock.createTimer()) {
     replyTimer_->setCallback([this] { onReplyTimer(); });
@@ -24,13 +19,9 @@ LinkTransport::LinkTransport(SerialPort& port, Clock& clock, Prompts& prompts, S
 
 LinkTransport::~LinkTransport() = default;
 
-bool LinkTransport::acquire(LinkClient* client, LinkUse use, UiLanguage language) {
+bool LinkTransport::acquire(LinkClient* client) {
     if (owner_ && owner_ != client) return false;
     owner_ = client;
-    use_ = use;
-    language_ = language;
-    giveUp_ = false;
-    replyTimedOut_ = false;
     return true;
 }
 
@@ -47,44 +38,50 @@ void LinkTransport::startReceiving() {
 }
 
 void LinkTransport::send_uart(const QByteArray& frame) {
-    transmit(frame, kNoReply);
+    if (!owner_) return;
+    ++requestSerial_;
+    frame_ = frame;
+    awaitReply_ = false;
+    transmit();
 }
 
-void LinkTransport::sendRequest(const QByteArray& frame, int replyIntervalMs) {
-    transmit(frame, replyIntervalMs);
+void LinkTransport::request(const QByteArray& frame, int replyTimeoutMs, int attempts) {
+    if (!owner_) return;
+    ++requestSerial_;
+    frame_ = frame;
+    awaitReply_ = true;
+    replyTimeoutMs_ = replyTimeoutMs;
+    attempts_ = std::max(1, attempts);
+    timeouts_ = 0;
+    transmit();
 }
 
-void LinkTransport::send_in_session(const QByteArray& frame, int replyIntervalMs) {
-    if (owner_ && use_ == LinkUse::Session) {
-        transmit(frame, replyIntervalMs);
-    } else if (replyIntervalMs != kNoReply) {
-        arm(replyIntervalMs);
-    }
+int LinkTransport::attemptsLeft() const {
+    return std::max(1, attempts_ - timeouts_);
 }
 
 void LinkTransport::abort() {
+    ++requestSerial_;
     replyTimer_->stop();
     settleTimer_->stop();
     phase_ = Phase::Idle;
 }
 
-void LinkTransport::transmit(const QByteArray& frame, int replyIntervalMs) {
-    Q_ASSERT(frame.size() <= kSendBufferSize);
+void LinkTransport::transmit() {
+    Q_ASSERT(frame_.size() <= kSendBufferSize);
     replyTimer_->stop();
-    pendingInterval_ = replyIntervalMs;
     if (!port_.isOpen()) {
-        prompts_.showMessage(
-            warningBox(l10n::message(MessageId::MsgSetPort, language_), language_));
         // Nothing goes out; the requester learns of it by its time-out.
         phase_ = Phase::Settling;
         settleStart_ = clock_.nowMs() - kSettleMs;
         settleTimer_->start(0);
+        owner_->portClosedOnSend();
         return;
     }
     port_.setReceiveNotification(false);
     port_.discardOutput();
     // One write per byte, as the radio's firmware has always been fed.
-    for (char byte : frame) port_.write(QByteArray(1, byte));
+    for (char byte : frame_) port_.write(QByteArray(1, byte));
     phase_ = Phase::Draining;
     if (port_.bytesToWrite() == 0) startSettle();
 }
@@ -110,19 +107,13 @@ void LinkTransport::onSettleTimer() {
         port_.discardInput();
         port_.setReceiveNotification(true);
     }
-    if (pendingInterval_ != kNoReply) {
-        arm(pendingInterval_);
+    if (awaitReply_) {
+        phase_ = Phase::AwaitingReply;
+        replyTimer_->start(replyTimeoutMs_);
         return;
     }
     phase_ = Phase::Idle;
     if (owner_) owner_->sendFinished();
-}
-
-void LinkTransport::arm(int intervalMs) {
-    replyInterval_ = intervalMs;
-    replyTimedOut_ = false;
-    phase_ = Phase::AwaitingReply;
-    replyTimer_->start(intervalMs);
 }
 
 void LinkTransport::onReceived() {
@@ -157,7 +148,7 @@ void LinkTransport::onReceived() {
     if (!replyReady) {
         // The time-out runs again from the last byte; it also runs while a frame is half
         // received, so that a frame cut short cannot hold the exchange for ever.
-        replyTimer_->start(replyInterval_);
+        replyTimer_->start(replyTimeoutMs_);
         return;
     }
     phase_ = Phase::Idle;
@@ -169,40 +160,24 @@ void LinkTransport::onReplyTimer() {
     // A frame that stopped half way is given up with the time-out.
     if (!parser_.lineMode()) parser_.reset();
     phase_ = Phase::Idle;
-    replyTimedOut_ = true;
-    giveUp_ = false;
-    ++attemptCount_;
-    if (attemptCount_ > kMaxAttempts) {
-        giveUp_ = true;
-        giveUpCleanup();
+    ++timeouts_;
+    if (!owner_) return;
+    if (timeouts_ < attempts_) {
+        const int serial = requestSerial_;
+        owner_->attemptTimedOut(timeouts_);
+        // Unless the owner has cancelled, released or replaced the request meanwhile.
+        if (owner_ && serial == requestSerial_) transmit();
+        return;
     }
-    if (owner_) owner_->replyTimedOut(giveUp_);
+    owner_->exchangeFailed({LinkFailure::GaveUp, {}});
 }
 
-void LinkTransport::giveUpCleanup() {
-    view_.resumeStatusTimers();
-    view_.hideProgress();
-    if (owner_ && use_ == LinkUse::Session) {
-        Set_StBar(prompts_, MessageId::MsgLinkFailed, language_);
-        prompts_.showMessage({l10n::message(MessageId::MsgLinkFailedCheckRadio, language_),
-                              l10n::message(MessageId::MsgWarningTitle, language_)});
-        view_.setSessionButtonsEnabled(true);
-        Set_StBar(prompts_, MessageId::MsgPortLabel, language_);
-    }
-}
-
-void LinkTransport::onPortFailed() {
+void LinkTransport::onPortFailed(const QString& reason) {
     port_.setReceiveNotification(false);
     port_.close();
     const bool exchangeRunning = owner_ && phase_ != Phase::Idle;
     abort();
-    if (exchangeRunning) {
-        // A vanished port ends the exchange at once, like its last time-out.
-        replyTimedOut_ = true;
-        giveUp_ = true;
-        giveUpCleanup();
-        owner_->replyTimedOut(true);
-    }
-    Set_StBar(prompts_, MessageId::MsgPortClosed, language_);
-    Q_EMIT portLost();
+    // A vanished port ends the exchange at once, like its last time-out.
+    if (exchangeRunning) owner_->exchangeFailed({LinkFailure::PortLost, reason});
+    Q_EMIT portLost(reason);
 }

@@ -163,6 +163,10 @@ void PortControl::showPortState() {
               language_);
 }
 
+void PortControl::portLost() {
+    Set_StBar(prompts_, MessageId::MsgPortClosed, language_);
+}
+
 QString PortControl::deviceToolTip(int index) const {
     if (index < 0 || index >= comboItems_.size()) return {};
     return catalogue_.deviceFor(comboItems_.at(index).mid(3).toInt());

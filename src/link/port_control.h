@@ -16,8 +16,7 @@ class Prompts;
 class PortControl {
 public:
     static constexpr int kScannedPorts = 16;
-    static constexpr int kComxItem = 17;         // the menu item for numbers outside 1..16
-    static constexpr int kComxDialogItems = 65;  // "0" .. "64"
+    static constexpr int kComxItem = 17;  // the menu item for numbers outside 1..16
 
     PortControl(SerialPort& port, PortCatalogue catalogue, Prompts& prompts, UiLanguage language);
 
@@ -55,6 +54,8 @@ public:
 
     // Timer1: the status bar shows whether the port is open.
     void showPortState();
+    // The port failed under the program and the link has closed it.
+    void portLost();
 
     // The menu item checked: 0 none, 1..16 comN, kComxItem comx.
     int checkedItem() const { return checkedItem_; }

@@ -15,7 +15,7 @@ RadioSession::~RadioSession() {
 
 bool RadioSession::claimLink() {
     language_ = doc_.language;
-    if (!transport_.acquire(this, LinkUse::Session, language_)) {
+    if (!transport_.acquire(this)) {
         prompts_.showMessage(
             warningBox(l10n::programText(l10n::ProgramText::LinkBusy, language_), language_));
         return false;
@@ -50,6 +50,20 @@ void RadioSession::progressWindowClosed() {
     progress_ = 0;
     view_.setProgress(0);
     view_.resumeStatusTimers();
+}
+
+void RadioSession::presentLinkFailure() {
+    view_.resumeStatusTimers();
+    view_.hideProgress();
+    status(l10n::MessageId::MsgLinkFailed);
+    box(l10n::MessageId::MsgLinkFailedCheckRadio, l10n::MessageId::MsgWarningTitle);
+    view_.setSessionButtonsEnabled(true);
+    status(l10n::MessageId::MsgPortLabel);
+}
+
+void RadioSession::portClosedOnSend() {
+    prompts_.showMessage(
+        warningBox(l10n::message(l10n::MessageId::MsgSetPort, language_), language_));
 }
 
 void RadioSession::status(l10n::MessageId id) {

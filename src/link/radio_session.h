@@ -51,6 +51,11 @@ protected:
     void advanceProgress(int step);
     // What closing the progress window does before the session sees it.
     void progressWindowClosed();
+    // What the window shows when the radio stops answering or the port fails under the
+    // session: the progress window goes, the failure is reported, the buttons come back.
+    void presentLinkFailure();
+    // A request found the port closed: the user is told each time, the attempts run out.
+    void portClosedOnSend() override;
 
     void status(l10n::MessageId id);
     // An OK-only box; `title` empty: the application's default title.

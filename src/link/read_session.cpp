@@ -26,7 +26,6 @@ bool ReadSession::start() {
     view_.showProgress(l10n::message(MessageId::MsgReadFromRadio, language_));
     status(MessageId::MsgReading);
     view_.pauseStatusTimers();
-    transport_.setAttemptCount(0);
     step_ = Step::Opening;
     sendOpening();
     return true;
@@ -39,18 +38,16 @@ void ReadSession::cancel() {
 }
 
 void ReadSession::sendOpening() {
-    transport_.send_in_session(readSettingsRequest(), kOpeningReplyMs);
+    transport_.request(readSettingsRequest(), kOpeningReplyMs, kOpeningAttempts);
 }
 
 void ReadSession::sendChannel() {
-    transport_.send_in_session(readChannelRequest(channel_), kChannelReplyMs);
+    transport_.request(readChannelRequest(channel_), kChannelReplyMs, kChannelAttempts);
 }
 
 void ReadSession::replyReceived(const QByteArray& payload) {
     switch (step_) {
         case Step::Opening:
-            // From now on the first time-out ends the session.
-            transport_.setAttemptCount(LinkTransport::kMaxAttempts);
             decode_settings(doc_, payload);
             step_ = Step::Channels;
             channel_ = 0;
@@ -75,18 +72,15 @@ void ReadSession::replyReceived(const QByteArray& payload) {
     }
 }
 
-void ReadSession::replyTimedOut(bool gaveUp) {
+void ReadSession::exchangeFailed(const LinkFailure&) {
     switch (step_) {
         case Step::Opening:
-            if (!gaveUp) {
-                sendOpening();
-                return;
-            }
-            // The reply timer has reported the failure and tidied the window up.
+            presentLinkFailure();
             step_ = Step::Idle;
             finish(SessionOutcome::TimedOut);
             return;
         case Step::Channels:
+            presentLinkFailure();
             errorEnd(SessionOutcome::TimedOut);
             return;
         case Step::Idle:

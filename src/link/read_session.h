@@ -10,7 +10,9 @@ class ReadSession : public RadioSession {
 
 public:
     static constexpr int kOpeningReplyMs = 1000;
+    static constexpr int kOpeningAttempts = 3;
     static constexpr int kChannelReplyMs = 5000;
+    static constexpr int kChannelAttempts = 1;
     static constexpr int kProgressPerChannel = 3;
 
     ReadSession(LinkTransport& transport, Codeplug& doc, Prompts& prompts, SessionView& view,
@@ -21,7 +23,7 @@ public:
     void cancel() override;
 
     void replyReceived(const QByteArray& payload) override;
-    void replyTimedOut(bool gaveUp) override;
+    void exchangeFailed(const LinkFailure& failure) override;
 
 private:
     enum class Step { Idle, Opening, Channels };

@@ -75,7 +75,6 @@ bool WriteSession::start() {
     view_.setSessionButtonsEnabled(false);
     view_.showProgress(l10n::serviceCaption(l10n::SvcWriteToRadio, language_));
     status(MessageId::MsgWriting);
-    transport_.setAttemptCount(0);
     step_ = Step::Opening;
     sendSettings();
     return true;
@@ -94,7 +93,7 @@ void WriteSession::cancel() {
 }
 
 void WriteSession::sendSettings() {
-    transport_.send_in_session(encode_settings(doc_), kReplyMs);
+    transport_.request(encode_settings(doc_), kReplyMs, kSettingsAttempts);
 }
 
 void WriteSession::sendChannel() {
@@ -103,14 +102,13 @@ void WriteSession::sendChannel() {
         errorEnd();
         return;
     }
-    transport_.send_in_session(std::get<QByteArray>(frame), kReplyMs);
+    transport_.request(std::get<QByteArray>(frame), kReplyMs, kChannelAttempts);
 }
 
 void WriteSession::replyReceived(const QByteArray&) {
     // Any valid frame acknowledges; what it carries does not matter.
     switch (step_) {
         case Step::Opening:
-            transport_.setAttemptCount(LinkTransport::kMaxAttempts);
             advanceProgress(kProgressPerRecord);
             step_ = Step::Channels;
             channel_ = 0;
@@ -130,24 +128,17 @@ void WriteSession::replyReceived(const QByteArray&) {
     }
 }
 
-void WriteSession::replyTimedOut(bool gaveUp) {
+void WriteSession::exchangeFailed(const LinkFailure&) {
     if (step_ == Step::Idle) return;
-    if (step_ == Step::Opening && !gaveUp) {
-        sendSettings();
-        return;
-    }
-    // The reply timer has reported the failure; no "E" follows a failed write.
+    // No "E" follows a failed write.
     step_ = Step::Idle;
+    presentLinkFailure();
     finish(SessionOutcome::TimedOut);
 }
 
 void WriteSession::finish_write() {
     step_ = Step::Finishing;
-    if (!transport_.replyTimedOut()) {
-        transport_.send_in_session(endWriteRequest(), LinkTransport::kNoReply);
-    } else {
-        sendFinished();
-    }
+    transport_.send_uart(endWriteRequest());
 }
 
 void WriteSession::sendFinished() {

@@ -13,6 +13,8 @@ class WriteSession : public RadioSession {
 
 public:
     static constexpr int kReplyMs = 5000;
+    static constexpr int kSettingsAttempts = 3;
+    static constexpr int kChannelAttempts = 1;
     static constexpr int kProgressPerRecord = 6;
     static constexpr int kMaxFrequencyLength = 9;
 
@@ -34,7 +36,7 @@ public:
     static std::optional<Notice> checkEncodable(const Codeplug& doc);
 
     void replyReceived(const QByteArray& payload) override;
-    void replyTimedOut(bool gaveUp) override;
+    void exchangeFailed(const LinkFailure& failure) override;
     void sendFinished() override;
 
 private:

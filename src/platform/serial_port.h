@@ -13,9 +13,6 @@ enum class PortOpenError {
     Other,
 };
 
-// The platform's numbers for the two errors the user is warned about (0 for the others).
-int platformErrorNumber(PortOpenError error);
-
 // The serial line to the radio, always 9600 baud, 8 data bits, no parity, 1 stop bit.
 // Writes are queued; `drained` tells when the queue has gone out. Received bytes wait in the
 // input queue; `received` is raised for them only while receive notification is on, so that a

@@ -12,11 +12,6 @@
 #include "model/editing.h"
 #include "persistence/codeplug_file.h"
 
-// Readable QStrings in test failures.
-inline void PrintTo(const QString& text, std::ostream* os) {
-    *os << text.toStdString();
-}
-
 namespace {
 
 struct CliRun {

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "fake_port.h"
+#include "support/fake_port.h"
 
 namespace {
 

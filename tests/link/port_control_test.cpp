@@ -2,9 +2,9 @@
 
 #include <gtest/gtest.h>
 
-#include "fake_port.h"
-#include "platform/manual_clock.h"
-#include "platform/recording_prompts.h"
+#include "support/fake_port.h"
+#include "support/manual_clock.h"
+#include "support/recording_prompts.h"
 
 namespace {
 

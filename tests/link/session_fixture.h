@@ -3,15 +3,16 @@
 #include <QStringList>
 #include <vector>
 
-#include "fake_port.h"
 #include "link/link_transport.h"
+#include "link/port_control.h"
 #include "link/session_view.h"
 #include "model/codeplug.h"
 #include "model/editing.h"
-#include "platform/manual_clock.h"
-#include "platform/recording_prompts.h"
 #include "sim/sim_radio.h"
 #include "sim/simulated_port.h"
+#include "support/fake_port.h"
+#include "support/manual_clock.h"
+#include "support/recording_prompts.h"
 
 // Keeps what a session did to the window.
 struct RecordingView : SessionView {
@@ -42,6 +43,7 @@ class SessionFixture {
 public:
     SessionFixture() {
         port.open(SimulatedPort::kDefaultDevice);
+        QObject::connect(&transport, &LinkTransport::portLost, [this] { control.portLost(); });
         radio.setTraceSink(
             [this](SimRadio::TraceKind kind, const QByteArray& bytes, const QString&) {
                 if (kind == SimRadio::TraceKind::Request)
@@ -80,6 +82,7 @@ public:
     SimulatedPort port{clock, radio};
     RecordingPrompts prompts;
     RecordingView view;
-    LinkTransport transport{port, clock, prompts, view};
+    LinkTransport transport{port, clock};
+    PortControl control{port, PortCatalogue(), prompts, UiLanguage::English};
     std::vector<std::pair<qint64, QByteArray>> requests;  // time, frame
 };

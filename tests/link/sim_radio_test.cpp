@@ -4,11 +4,11 @@
 
 #include <vector>
 
-#include "fake_port.h"
 #include "link/frame.h"
-#include "platform/manual_clock.h"
 #include "sim/sim_memory.h"
 #include "sim/simulated_port.h"
+#include "support/fake_port.h"
+#include "support/manual_clock.h"
 
 namespace {
 

@@ -2,11 +2,10 @@
 
 #include <vector>
 
-#include "fake_port.h"
 #include "link/link_transport.h"
 #include "link/session_view.h"
-#include "platform/manual_clock.h"
-#include "platform/recording_prompts.h"
+#include "support/fake_port.h"
+#include "support/manual_clock.h"
 
 namespace {
 
@@ -15,27 +14,35 @@ struct Client : LinkClient {
     explicit Client(ManualClock& c) : clock(c) {}
     ManualClock& clock;
     std::vector<QByteArray> replies;
-    std::vector<std::pair<qint64, bool>> timeouts;  // time, gave up
+    std::vector<std::pair<qint64, int>> attemptTimeouts;  // time, attempt
+    std::vector<std::pair<qint64, LinkFailure>> failures;
+    int closedOnSend = 0;
     std::vector<qint64> sendsFinished;
 
     void replyReceived(const QByteArray& payload) override { replies.push_back(payload); }
-    void replyTimedOut(bool gaveUp) override { timeouts.push_back({clock.nowMs(), gaveUp}); }
+    void attemptTimedOut(int attempt) override {
+        attemptTimeouts.push_back({clock.nowMs(), attempt});
+    }
+    void exchangeFailed(const LinkFailure& failure) override {
+        failures.push_back({clock.nowMs(), failure});
+    }
+    void portClosedOnSend() override { ++closedOnSend; }
     void sendFinished() override { sendsFinished.push_back(clock.nowMs()); }
 };
+
+const QByteArray kSettingsRequest = QByteArray::fromHex("53030000045a");
 
 class TransportTest : public ::testing::Test {
 protected:
     void SetUp() override {
         port.open("COM1");
-        ASSERT_TRUE(transport.acquire(&client, LinkUse::Session, UiLanguage::English));
+        ASSERT_TRUE(transport.acquire(&client));
         transport.startReceiving();
     }
 
     ManualClock clock;
     FakePort port{clock};
-    RecordingPrompts prompts;
-    NullSessionView view;
-    LinkTransport transport{port, clock, prompts, view};
+    LinkTransport transport{port, clock};
     Client client{clock};
 };
 
@@ -56,7 +63,7 @@ TEST_F(TransportTest, SendsOneWritePerByteThenSettlesAndOpensReception) {
 }
 
 TEST_F(TransportTest, WhatArrivesWhileSettlingNeverReachesTheParser) {
-    transport.sendRequest(hexBytes("53030000045a"), 1000);
+    transport.request(kSettingsRequest, 1000, 3);
     clock.advance(10);
     port.inject(hexBytes("4101 07"));  // the start of a frame, during the settle
     clock.advance(10);
@@ -66,45 +73,73 @@ TEST_F(TransportTest, WhatArrivesWhileSettlingNeverReachesTheParser) {
     EXPECT_EQ(client.replies[0], hexBytes("08"));
 }
 
-TEST_F(TransportTest, AttemptsEndWithTheThirdTickOrTheFirstWhenPreset) {
-    for (int preset : {0, 2}) {
-        client.timeouts.clear();
-        transport.setAttemptCount(preset);
-        std::vector<bool> gaveUp;
-        while (gaveUp.empty() || !gaveUp.back()) {
-            transport.sendRequest(hexBytes("53030000045a"), 1000);
-            clock.advance(1020);
-            ASSERT_FALSE(client.timeouts.empty());
-            gaveUp.push_back(client.timeouts.back().second);
-            ASSERT_LE(gaveUp.size(), 3u);
+TEST_F(TransportTest, ATimeOutSendsTheSameFrameAgainUntilTheAttemptsAreUsedUp) {
+    for (int attempts : {3, 1}) {
+        client.attemptTimeouts.clear();
+        client.failures.clear();
+        port.takeWritten();
+        const qint64 start = clock.nowMs();
+        transport.request(kSettingsRequest, 1000, attempts);
+        clock.advance(5000);
+        // Each attempt: 20 ms to settle, then 1000 ms for the reply.
+        std::vector<std::pair<qint64, int>> expectedTimeouts;
+        for (int attempt = 1; attempt < attempts; ++attempt) {
+            expectedTimeouts.push_back({start + attempt * 1020, attempt});
         }
-        EXPECT_EQ(gaveUp.size(), preset == 0 ? 3u : 1u) << "preset " << preset;
-        EXPECT_TRUE(transport.giveUp());
+        EXPECT_EQ(client.attemptTimeouts, expectedTimeouts) << attempts << " attempts";
+        EXPECT_EQ(port.takeWritten(), kSettingsRequest.repeated(attempts)) << attempts;
+        ASSERT_EQ(client.failures.size(), 1u) << attempts;
+        EXPECT_EQ(client.failures[0].first, start + attempts * 1020) << attempts;
+        EXPECT_EQ(client.failures[0].second.kind, LinkFailure::GaveUp) << attempts;
+        EXPECT_EQ(transport.attemptsLeft(), 1) << "what a give-up leaves";
     }
 }
 
-TEST_F(TransportTest, GivingUpDuringASessionReportsTheFailure) {
-    transport.setAttemptCount(2);
-    transport.sendRequest(hexBytes("52030000055a"), 5000);
-    clock.advance(5020);
-    EXPECT_EQ(prompts.transcript(),
-              QStringList({"status: Transmission ERROR",
-                           "box: Transmission Error，Check Radio | NOTE", "status: COM"}));
+TEST_F(TransportTest, AReplyEndsTheAttemptsAndLeavesTheRestForTheNextExchange) {
+    transport.request(kSettingsRequest, 1000, 3);
+    clock.advance(1020 + 20);
+    port.inject(hexBytes("4100 41"));
+    ASSERT_EQ(client.replies.size(), 1u);
+    EXPECT_EQ(client.attemptTimeouts.size(), 1u);
+    clock.advance(5000);
+    EXPECT_TRUE(client.failures.empty());
+    EXPECT_EQ(port.takeWritten(), kSettingsRequest.repeated(2));
+    EXPECT_EQ(transport.attemptsLeft(), 2);
 }
 
-TEST_F(TransportTest, GivingUpDuringAServiceExchangeStaysQuiet) {
+TEST_F(TransportTest, AnOwnerThatCancelsOnATimeOutStopsTheResend) {
+    struct Cancelling : Client {
+        using Client::Client;
+        LinkTransport* transport = nullptr;
+        void attemptTimedOut(int attempt) override {
+            Client::attemptTimedOut(attempt);
+            transport->abort();
+        }
+    } cancelling{clock};
+    cancelling.transport = &transport;
     transport.release(&client);
-    ASSERT_TRUE(transport.acquire(&client, LinkUse::Service, UiLanguage::English));
-    transport.setAttemptCount(2);
-    transport.sendRequest(hexBytes("52030000055a"), 1000);
-    clock.advance(1020);
-    ASSERT_EQ(client.timeouts.size(), 1u);
-    EXPECT_TRUE(client.timeouts[0].second);
-    EXPECT_TRUE(prompts.entries().empty());
+    ASSERT_TRUE(transport.acquire(&cancelling));
+    transport.request(kSettingsRequest, 1000, 3);
+    clock.advance(5000);
+    EXPECT_EQ(cancelling.attemptTimeouts.size(), 1u);
+    EXPECT_EQ(port.takeWritten(), kSettingsRequest);
+    EXPECT_TRUE(cancelling.failures.empty());
+}
+
+TEST_F(TransportTest, OnlyTheOwnerOfTheLinkSends) {
+    Client other{clock};
+    EXPECT_FALSE(transport.acquire(&other));
+    transport.release(&client);
+    transport.request(kSettingsRequest, 1000, 3);
+    transport.send_uart(hexBytes("450045"));
+    clock.advance(5000);
+    EXPECT_TRUE(port.writes.empty());
+    EXPECT_TRUE(client.failures.empty());
+    EXPECT_TRUE(transport.acquire(&other));
 }
 
 TEST_F(TransportTest, TwoFramesInOneEventGiveTheSecond) {
-    transport.sendRequest(hexBytes("53030000045a"), 1000);
+    transport.request(kSettingsRequest, 1000, 3);
     clock.advance(20);
     port.inject(hexBytes("4101 07 49 4101 08 4a"));
     ASSERT_EQ(client.replies.size(), 1u);
@@ -121,20 +156,19 @@ TEST_F(TransportTest, TheTimeOutRunsAgainFromEachReceiveEvent) {
         {"frame cut after its command byte", hexBytes("41")},
     };
     for (const auto& c : cases) {
-        client.timeouts.clear();
+        client.failures.clear();
         client.replies.clear();
-        transport.setAttemptCount(0);
-        transport.sendRequest(hexBytes("53030000045a"), 1000);
+        transport.request(kSettingsRequest, 1000, 1);
         const qint64 armed = clock.nowMs() + 20;
         clock.advance(20 + 500);
         port.inject(c.bytes);
         clock.advance(999);
-        EXPECT_TRUE(client.timeouts.empty()) << c.name;
+        EXPECT_TRUE(client.failures.empty()) << c.name;
         clock.advance(1);
-        ASSERT_EQ(client.timeouts.size(), 1u) << c.name;
-        EXPECT_EQ(client.timeouts[0].first, armed + 1500) << c.name;
+        ASSERT_EQ(client.failures.size(), 1u) << c.name;
+        EXPECT_EQ(client.failures[0].first, armed + 1500) << c.name;
         // The next frame is read from its first byte, whatever was left half way.
-        transport.sendRequest(hexBytes("53030000045a"), 1000);
+        transport.request(kSettingsRequest, 1000, 3);
         clock.advance(20);
         port.inject(hexBytes("4100 41"));
         EXPECT_EQ(client.replies.size(), 1u) << c.name;
@@ -143,31 +177,37 @@ TEST_F(TransportTest, TheTimeOutRunsAgainFromEachReceiveEvent) {
 
 TEST_F(TransportTest, AClosedPortSendsNothingAndTheRequesterTimesOut) {
     port.close();
-    transport.sendRequest(hexBytes("53030000045a"), 1000);
+    transport.request(kSettingsRequest, 1000, 2);
     EXPECT_TRUE(port.writes.empty());
-    ASSERT_EQ(prompts.boxes().size(), 1u);
-    EXPECT_EQ(prompts.boxes()[0].text, "Please check COM Port");
-    EXPECT_EQ(prompts.boxes()[0].icon, BoxIcon::Warning);
+    EXPECT_EQ(client.closedOnSend, 1);
     clock.advance(1000);
-    EXPECT_EQ(client.timeouts.size(), 1u);
+    EXPECT_EQ(client.closedOnSend, 2) << "told again at the second attempt";
+    clock.advance(1000);
+    ASSERT_EQ(client.failures.size(), 1u);
+    EXPECT_EQ(client.failures[0].second.kind, LinkFailure::GaveUp);
 }
 
 TEST_F(TransportTest, APortFailureEndsTheExchangeAndClosesThePort) {
-    transport.sendRequest(hexBytes("53030000045a"), 1000);
+    transport.request(kSettingsRequest, 1000, 3);
     clock.advance(100);
+    QStringList lost;
+    QObject::connect(&transport, &LinkTransport::portLost,
+                     [&](const QString& reason) { lost << reason; });
     port.fail();
     EXPECT_FALSE(port.isOpen());
-    ASSERT_EQ(client.timeouts.size(), 1u);
-    EXPECT_TRUE(client.timeouts[0].second);
-    EXPECT_EQ(prompts.statusTexts(), QStringList({"Transmission ERROR", "COM", "COM Closed"}));
+    ASSERT_EQ(client.failures.size(), 1u);
+    EXPECT_EQ(client.failures[0].second.kind, LinkFailure::PortLost);
+    EXPECT_EQ(client.failures[0].second.detail, "device removed");
+    EXPECT_EQ(lost, QStringList({"device removed"}));
     clock.advance(5000);
-    EXPECT_EQ(client.timeouts.size(), 1u) << "no tick after the port is gone";
+    EXPECT_EQ(client.failures.size(), 1u) << "no tick after the port is gone";
+    EXPECT_TRUE(client.attemptTimeouts.empty());
 }
 
 TEST_F(TransportTest, MonitorModeTakesEveryFrame) {
     std::vector<QByteArray> monitored;
     transport.setMonitor([&](const QByteArray& payload) { monitored.push_back(payload); });
-    transport.sendRequest(hexBytes("6a0100 6b"), 1000);
+    transport.request(hexBytes("6a0100 6b"), 1000, 3);
     clock.advance(20);
     port.inject(hexBytes("4101 07 49 4101 08 4a"));
     EXPECT_EQ(monitored, (std::vector<QByteArray>{hexBytes("07"), hexBytes("08")}));

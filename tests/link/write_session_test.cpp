@@ -163,6 +163,7 @@ TEST_F(WriteSessionTest, TheRadioNotAnsweringEndsTheWriteWithoutTheEndRequest) {
                   QStringList({"status: Writing……", "status: Transmission ERROR",
                                "box: Transmission Error，Check Radio | NOTE", "status: COM"}))
             << c.name;
+        world.clock.advance(kLongEnough);  // whatever was still on its way has arrived
         EXPECT_EQ(world.requestsWithCommand('E'), 0) << c.name;
         EXPECT_EQ(world.requestsWithCommand('X'), c.silentRequest == 0 ? 3 : 1) << c.name;
         EXPECT_EQ(world.requestsWithCommand('W'), c.silentRequest == 0 ? 0 : 6) << c.name;
@@ -197,6 +198,7 @@ TEST_F(WriteSessionTest, AHangUpEndsTheWriteAndClosesThePort) {
                                        "box: Transmission Error，Check Radio | NOTE", "status: COM",
                                        "status: COM Closed"}));
     EXPECT_FALSE(port.isOpen());
+    clock.advance(kLongEnough);
     EXPECT_EQ(requestsWithCommand('E'), 0);
 }
 

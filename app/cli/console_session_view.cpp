@@ -1,4 +1,4 @@
-#include "link/console_session_view.h"
+#include "cli/console_session_view.h"
 
 #include <unistd.h>
 

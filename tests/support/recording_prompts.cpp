@@ -1,4 +1,4 @@
-#include "platform/recording_prompts.h"
+#include "support/recording_prompts.h"
 
 void RecordingPrompts::showStatus(const StatusText& status) {
     entries_.push_back({Entry::Status, status, {}});

@@ -2,7 +2,6 @@
 
 #include <QSet>
 #include <QString>
-#include <ostream>
 #include <vector>
 
 #include "platform/clock.h"
@@ -87,9 +86,4 @@ private:
 
 inline QByteArray hexBytes(const char* hex) {
     return QByteArray::fromHex(hex);
-}
-
-// Readable QStrings in test failures.
-inline void PrintTo(const QString& text, std::ostream* os) {
-    *os << '"' << text.toStdString() << '"';
 }

@@ -1,4 +1,4 @@
-#include "platform/manual_clock.h"
+#include "support/manual_clock.h"
 
 #include <algorithm>
 
