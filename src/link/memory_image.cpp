@@ -4,33 +4,31 @@
 #include <optional>
 
 #include "link/frame.h"
+#include "link/protocol.h"
 #include "model/code_tables.h"
 #include "model/editing.h"
 
 namespace {
 
-constexpr quint8 kWriteSettings = 0x58;  // "X"
-constexpr quint8 kWriteChannel = 0x57;   // "W"
+using namespace protocol;
 
-// Record layout of a channel.
-constexpr int kRxFreq = 0, kTxFreq = 2, kRxCode = 4, kTxCode = 5, kFlags = 6;
-constexpr int kRxCustom = 7, kTxCustom = 9, kRxDcsHigh = 11, kTxDcsHigh = 12;
-constexpr int kShortRecord = 11, kLongRecord = 13;
-
-// Flag byte.
-constexpr int kRxStep625 = 0x01, kTxStep625 = 0x02, kWide = 0x04;
-constexpr int kRxInverted = 0x08, kTxInverted = 0x10, kHighPower = 0x20;
+constexpr int kShortRecord = kShortChannelRecord, kLongRecord = kLongChannelRecord;
 
 // Codes past the normal DCS run travel as position - 105 with a flag; byte 162 marks "CDCSS".
 constexpr int kLastUnflaggedCode = 160;
 constexpr int kInvertedOffset = 105;
-constexpr int kCdcssMarker = 162;
 
 constexpr int kMaxStepCount = 32767;
 
-bool isSet(int value, int mask) { return (value & mask) != 0; }
-int bitIf(bool condition, int mask) { return condition ? mask : 0; }
-int bitIfOne(const RadioSettings& s, SettingKey key, int mask) { return bitIf(s[key] == 1, mask); }
+bool isSet(int value, int mask) {
+    return (value & mask) != 0;
+}
+int bitIf(bool condition, int mask) {
+    return condition ? mask : 0;
+}
+int bitIfOne(const RadioSettings& s, SettingKey key, int mask) {
+    return bitIf(s[key] == 1, mask);
+}
 
 void putWord(QByteArray& record, int at, int value) {
     record[at] = static_cast<char>((value >> 8) & 0xFF);
@@ -61,7 +59,8 @@ std::optional<QString> putCustomValue(QByteArray& record, int wordAt, int highAt
                                       const QString& tone, const QString& dcs) {
     if (!cdcss) {
         const double tenths = std::nearbyint(numericValue(tone) * 10.0);
-        if (tenths < 0 || tenths > 0xFFFF) return QStringLiteral("custom tone %1 out of range").arg(tone);
+        if (tenths < 0 || tenths > 0xFFFF)
+            return QStringLiteral("custom tone %1 out of range").arg(tone);
         putWord(record, wordAt, static_cast<int>(tenths));
         return std::nullopt;
     }
@@ -73,7 +72,9 @@ std::optional<QString> putCustomValue(QByteArray& record, int wordAt, int highAt
     return std::nullopt;
 }
 
-QString toneText(int tenths) { return QString::number(tenths / 10.0); }
+QString toneText(int tenths) {
+    return QString::number(tenths / 10.0);
+}
 
 }  // namespace
 
@@ -136,8 +137,12 @@ std::variant<QByteArray, EncodeError> encode_channel(const Codeplug& doc, int sl
 
     const std::optional<int> rxSteps = stepCount(ch.rxfreq, lower, rxOn625 ? 6.25 : 5.0);
     const std::optional<int> txSteps = stepCount(ch.txfreq, lower, txOn625 ? 6.25 : 5.0);
-    if (!rxSteps) return EncodeError{slot, QStringLiteral("receive frequency %1 does not fit").arg(ch.rxfreq)};
-    if (!txSteps) return EncodeError{slot, QStringLiteral("transmit frequency %1 does not fit").arg(ch.txfreq)};
+    if (!rxSteps)
+        return EncodeError{slot,
+                           QStringLiteral("receive frequency %1 does not fit").arg(ch.rxfreq)};
+    if (!txSteps)
+        return EncodeError{slot,
+                           QStringLiteral("transmit frequency %1 does not fit").arg(ch.txfreq)};
 
     const CodeByte rxCode = codeByteOf(doc.codeTable, ch.rxctc);
     const CodeByte txCode = codeByteOf(doc.codeTable, ch.txctc);
@@ -154,7 +159,8 @@ std::variant<QByteArray, EncodeError> encode_channel(const Codeplug& doc, int sl
     int flags = bitIf(rxOn625, kRxStep625) + bitIf(txOn625, kTxStep625) +
                 bitIf(isWideWord(ch.band), kWide) + bitIf(isHighPowerWord(ch.power), kHighPower);
     // With a custom DCS code in the record the radio takes neither inversion flag.
-    if (!longRecord) flags += bitIf(rxCode.inverted, kRxInverted) + bitIf(txCode.inverted, kTxInverted);
+    if (!longRecord)
+        flags += bitIf(rxCode.inverted, kRxInverted) + bitIf(txCode.inverted, kTxInverted);
     record[kFlags] = static_cast<char>(flags);
 
     for (const auto& fault :
@@ -172,7 +178,9 @@ std::variant<QByteArray, EncodeError> encode_channel(const Codeplug& doc, int sl
 
 bool decode_channel(Codeplug& doc, int slot, const QByteArray& payload, Notices* notices) {
     const int n = static_cast<int>(payload.size());
-    auto byte = [&](int at) { return at < n ? static_cast<int>(static_cast<quint8>(payload[at])) : 0; };
+    auto byte = [&](int at) {
+        return at < n ? static_cast<int>(static_cast<quint8>(payload[at])) : 0;
+    };
 
     const int limit = byte(kRxCode) == kCdcssMarker ? kLongRecord : kShortRecord;
     if (n < kShortRecord || n > limit) return false;

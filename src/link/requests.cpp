@@ -1,16 +1,13 @@
 #include "link/requests.h"
 
 #include "link/frame.h"
+#include "link/protocol.h"
 
 namespace {
 
-constexpr quint8 kReadSettings = 0x53;  // "S"
-constexpr quint8 kReadChannel = 0x52;   // "R"
-constexpr quint8 kEndWrite = 0x45;      // "E"
+using namespace protocol;
+
 constexpr char kSub = 0;
-// The byte after the address tells the radio which record is wanted.
-constexpr char kSettingsRecord = 0x04;
-constexpr char kChannelRecord = 0x05;
 
 QByteArray addressed(quint8 command, int block, char what) {
     QByteArray payload;
@@ -21,11 +18,11 @@ QByteArray addressed(quint8 command, int block, char what) {
 }  // namespace
 
 QByteArray readSettingsRequest() {
-    return addressed(kReadSettings, 0, kSettingsRecord);
+    return addressed(kReadSettings, 0, kSettingsRecordTag);
 }
 
 QByteArray readChannelRequest(int slot) {
-    return addressed(kReadChannel, slot, kChannelRecord);
+    return addressed(kReadChannel, slot, kChannelRecordTag);
 }
 
 QByteArray endWriteRequest() {

@@ -1,5 +1,7 @@
 #include "sim/sim_memory.h"
 
+#include "link/protocol.h"
+
 namespace {
 
 // Positions in the normal code list.
@@ -9,7 +11,9 @@ constexpr int kTone885 = 8;
 constexpr int kDcs023 = 39;
 
 constexpr int kFirstStep = 7361;  // 446.00625 MHz above 400 MHz in 6.25 kHz steps
-constexpr int kBothSteps625 = 0x03, kWide = 0x04, kHighPower = 0x20;
+constexpr int kBothSteps625 = protocol::kRxStep625 | protocol::kTxStep625;
+using protocol::kHighPower;
+using protocol::kWide;
 
 }  // namespace
 
@@ -25,15 +29,13 @@ QByteArray initialChannelRecord(int slot) {
     if (slot % 3 == 1) flags |= kWide;
     if (slot % 2 == 0) flags |= kHighPower;
 
-    QByteArray record(11, '\0');
-    record[0] = static_cast<char>(steps >> 8);
-    record[1] = static_cast<char>(steps & 0xFF);
-    record[2] = record[0];
-    record[3] = record[1];
-    record[4] = static_cast<char>(code);
-    record[5] = static_cast<char>(code);
-    record[6] = static_cast<char>(flags);
-    record[7] = record[9] = 0x02;  // custom tones 67.0 Hz
-    record[8] = record[10] = static_cast<char>(0x9E);
+    using namespace protocol;
+    QByteArray record(kShortChannelRecord, '\0');
+    record[kRxFreq] = record[kTxFreq] = static_cast<char>(steps >> 8);
+    record[kRxFreq + 1] = record[kTxFreq + 1] = static_cast<char>(steps & 0xFF);
+    record[kRxCode] = record[kTxCode] = static_cast<char>(code);
+    record[kFlags] = static_cast<char>(flags);
+    record[kRxCustom] = record[kTxCustom] = 0x02;  // custom tones 67.0 Hz
+    record[kRxCustom + 1] = record[kTxCustom + 1] = static_cast<char>(0x9E);
     return record;
 }

@@ -1,22 +1,12 @@
 #include "sim/sim_radio.h"
 
 #include "link/frame.h"
+#include "link/protocol.h"
 #include "sim/sim_memory.h"
 
 namespace {
 
-constexpr quint8 kReadSettings = 0x53;   // "S"
-constexpr quint8 kReadChannel = 0x52;    // "R"
-constexpr quint8 kWriteSettings = 0x58;  // "X"
-constexpr quint8 kWriteChannel = 0x57;   // "W"
-constexpr quint8 kEndWrite = 0x45;       // "E"
-
-constexpr int kAddressBytes = 2;  // block, sub
-constexpr int kSettingsRecordSize = 4;
-constexpr int kShortChannelRecord = 11, kLongChannelRecord = 13;
-constexpr int kRxCode = 4, kTxCode = 5, kFlags = 6;
-constexpr quint8 kCdcssMarker = 162;
-constexpr char kRxInverted = 0x08, kTxInverted = 0x10;
+using namespace protocol;
 
 // No parser can take these: outside the reply command range, and a frame start whose length
 // is too large.
