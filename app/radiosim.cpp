@@ -44,6 +44,7 @@ int main(int argc, char** argv) {
     std::string silent, tracePath;
     std::vector<int> badChecksum, garbage, cut, wrongLength;
     int hangUp = 0;
+    bool noise = false;
     cli.add_flag("--pace", pace, "pace both directions at 9600 baud");
     cli.add_option("--latency", latency, "reply latency in ms")->check(CLI::Range(0, 60000));
     cli.add_option("--silent", silent, "leave requests unanswered: all, or numbers like 3,5");
@@ -51,7 +52,9 @@ int main(int argc, char** argv) {
     cli.add_option("--garbage", garbage, "replies with garbage in front")->delimiter(',');
     cli.add_option("--cut", cut, "replies cut after their command byte")->delimiter(',');
     cli.add_option("--wrong-length", wrongLength, "replies one byte too long")->delimiter(',');
-    cli.add_option("--hang-up", hangUp, "drop the line when this request arrives");
+    cli.add_option("--hang-up", hangUp,
+                   "drop the line when this request arrives (27: right after a write's closing E)");
+    cli.add_flag("--noise", noise, "answer nothing and fill the line with random bytes");
     cli.add_option("--trace", tracePath, "log every frame both ways as hex");
     CLI11_PARSE(cli, argc, argv);
 
@@ -73,6 +76,7 @@ int main(int argc, char** argv) {
     faults.cutFrame = requestSet(cut);
     faults.wrongLength = requestSet(wrongLength);
     faults.hangUpAt = hangUp;
+    faults.noise = noise;
 
     SteadyClock clock;
     SimRadio radio(clock);

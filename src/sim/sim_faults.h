@@ -12,6 +12,7 @@ struct SimFaults {
     QSet<int> cutFrame;     // the reply stops after its command byte
     QSet<int> wrongLength;  // the reply carries one byte too many
     int hangUpAt = 0;       // the line drops when this request arrives (0: never)
+    bool noise = false;     // answers nothing and keeps the line full of random bytes
 
-    bool silentFor(int request) const { return silentAlways || silent.contains(request); }
+    bool silentFor(int request) const { return silentAlways || noise || silent.contains(request); }
 };

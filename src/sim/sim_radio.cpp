@@ -8,6 +8,8 @@ namespace {
 
 using namespace protocol;
 
+constexpr int kNoiseIntervalMs = 10;
+
 // No parser can take these: outside the reply command range, and a frame start whose length
 // is too large.
 const QByteArray kGarbage = QByteArray::fromHex("00ff3c497f41ff");
@@ -29,11 +31,35 @@ QByteArray asReported(QByteArray record) {
 }  // namespace
 
 SimRadio::SimRadio(Clock& clock)
-    : clock_(clock), settings_(initialSettingsRecord()), replyTimer_(clock.createTimer()) {
+    : clock_(clock),
+      settings_(initialSettingsRecord()),
+      replyTimer_(clock.createTimer()),
+      noiseTimer_(clock.createTimer()) {
     for (int slot = 0; slot < kChannelCount; ++slot) {
         channels_[static_cast<size_t>(slot)] = initialChannelRecord(slot);
     }
     replyTimer_->setCallback([this] { sendDue(); });
+    noiseTimer_->setCallback([this] { sendNoise(); });
+}
+
+void SimRadio::setFaults(const SimFaults& faults) {
+    faults_ = faults;
+    if (faults_.noise && !noiseTimer_->isActive()) noiseTimer_->start(kNoiseIntervalMs);
+    if (!faults_.noise) noiseTimer_->stop();
+}
+
+void SimRadio::sendNoise() {
+    if (hungUp_) return;
+    // About what a 9600-baud line carries, from a small xorshift generator.
+    QByteArray bytes(kNoiseIntervalMs, '\0');
+    for (char& byte : bytes) {
+        noiseState_ ^= noiseState_ << 13;
+        noiseState_ ^= noiseState_ >> 17;
+        noiseState_ ^= noiseState_ << 5;
+        byte = static_cast<char>(noiseState_ & 0xFF);
+    }
+    if (transmit_) transmit_(bytes);
+    noiseTimer_->start(kNoiseIntervalMs);
 }
 
 SimRadio::~SimRadio() = default;
@@ -81,6 +107,7 @@ void SimRadio::handleRequest(quint8 command, const QByteArray& payload) {
         hungUp_ = true;
         pending_.clear();
         replyTimer_->stop();
+        noiseTimer_->stop();
         note(TraceKind::HangUp, {});
         if (hangUp_) hangUp_();
         return;

@@ -39,7 +39,7 @@ public:
     void setHangUpHandler(std::function<void()> hangUp) { hangUp_ = std::move(hangUp); }
     void setTraceSink(TraceSink sink) { trace_ = std::move(sink); }
 
-    void setFaults(const SimFaults& faults) { faults_ = faults; }
+    void setFaults(const SimFaults& faults);
     void setLatencyMs(int ms) { latencyMs_ = ms; }
 
     // Bytes that have arrived from the program.
@@ -61,6 +61,7 @@ private:
     void handleRequest(quint8 command, const QByteArray& payload);
     void reply(quint8 command, const QByteArray& payload);
     void sendDue();
+    void sendNoise();
     void note(TraceKind kind, const QByteArray& bytes, const QString& text = {});
 
     Clock& clock_;
@@ -84,6 +85,8 @@ private:
     };
     std::deque<PendingReply> pending_;
     std::unique_ptr<Timer> replyTimer_;
+    std::unique_ptr<Timer> noiseTimer_;
+    quint32 noiseState_ = 0x2545F491;  // the same noise every run
 
     int requestCount_ = 0;
     bool programmingEnded_ = false;
