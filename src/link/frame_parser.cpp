@@ -38,6 +38,12 @@ FrameParser::Outcome FrameParser::feedFrame(quint8 byte) {
     return Outcome::Dropped;
 }
 
+int FrameParser::frameBytesExpected() const {
+    constexpr int kOverhead = 3;  // command, length, checksum
+    return state_ == AwaitLength ? LinkFrame::kMaxReplyPayload + kOverhead
+                                 : replyLength_ + kOverhead;
+}
+
 FrameParser::Outcome FrameParser::feedLine(quint8 byte) {
     lineBuffer_[static_cast<size_t>(lineIndex_)] = static_cast<char>(byte);
     lineIndex_ = (lineIndex_ + 1) % kLineBufferSize;

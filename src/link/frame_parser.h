@@ -27,6 +27,9 @@ public:
     void reset() { state_ = AwaitCommand; }
 
     ParserState state() const { return state_; }
+    // Bytes of the whole frame under way, as far as known: its length byte not yet in, the
+    // longest a reply can be.
+    int frameBytesExpected() const;
     // Payload of the last good frame (ReplyData[0 .. ReplyIndex-1]).
     const QByteArray& reply() const { return reply_; }
 

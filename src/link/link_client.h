@@ -2,6 +2,32 @@
 
 #include <QByteArray>
 #include <QString>
+#include <bitset>
+#include <initializer_list>
+
+#include "link/frame.h"
+
+// The payload lengths a request accepts in its reply. A good frame of any other length is not
+// its reply: it is ignored and the wait goes on.
+class ReplyLengths {
+public:
+    ReplyLengths(std::initializer_list<int> lengths) {
+        for (int length : lengths) lengths_.set(static_cast<size_t>(length));
+    }
+    // For replies whose length the requester cannot know (text lines, monitored frames).
+    static ReplyLengths any() {
+        ReplyLengths all{};
+        all.lengths_.set();
+        return all;
+    }
+    bool accepts(int length) const {
+        return length >= 0 && length < static_cast<int>(lengths_.size()) &&
+               lengths_.test(static_cast<size_t>(length));
+    }
+
+private:
+    std::bitset<LinkFrame::kMaxReplyPayload + 1> lengths_;
+};
 
 // Why an exchange ended without its reply.
 struct LinkFailure {
@@ -26,6 +52,8 @@ public:
     virtual void attemptTimedOut(int attempt) { (void)attempt; }
     // The request ended without a reply; the link is idle and the owner decides what follows.
     virtual void exchangeFailed(const LinkFailure& failure) = 0;
+    // A good frame arrived whose length the request does not accept; the wait goes on.
+    virtual void replyIgnored(int length) { (void)length; }
     // A request could not go out because the port is closed. The transport goes on as if it
     // had (the attempts then time out), as the radio's tool always has.
     virtual void portClosedOnSend() {}

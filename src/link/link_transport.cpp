@@ -45,12 +45,14 @@ void LinkTransport::send_uart(const QByteArray& frame) {
     transmit();
 }
 
-void LinkTransport::request(const QByteArray& frame, int replyTimeoutMs, int attempts) {
+void LinkTransport::request(const QByteArray& frame, int replyTimeoutMs, int attempts,
+                            ReplyLengths accepted) {
     if (!owner_) return;
     ++requestSerial_;
     frame_ = frame;
     awaitReply_ = true;
     replyTimeoutMs_ = replyTimeoutMs;
+    accepted_ = accepted;
     attempts_ = std::max(1, attempts);
     timeouts_ = 0;
     transmit();
@@ -109,56 +111,95 @@ void LinkTransport::onSettleTimer() {
     }
     if (awaitReply_) {
         phase_ = Phase::AwaitingReply;
-        replyTimer_->start(replyTimeoutMs_);
+        armAttempt();
         return;
     }
     phase_ = Phase::Idle;
     if (owner_) owner_->sendFinished();
 }
 
-void LinkTransport::onReceived() {
-    const bool awaiting = phase_ == Phase::AwaitingReply;
-    if (awaiting) replyTimer_->stop();
+bool LinkTransport::receivingUnderWay() const {
+    return parser_.lineMode() ? lineUnderWay_ : parser_.state() != FrameParser::AwaitCommand;
+}
 
+void LinkTransport::armAttempt() {
+    deadlineExtended_ = false;
+    armUntil(clock_.nowMs() + replyTimeoutMs_);
+}
+
+void LinkTransport::armUntil(qint64 deadlineMs) {
+    deadlineMs_ = deadlineMs;
+    replyTimer_->start(static_cast<int>(std::max<qint64>(0, deadlineMs - clock_.nowMs())));
+}
+
+bool LinkTransport::parseInput(QByteArray* reply) {
     bool replyReady = false;
-    QByteArray reply;
+    const qint64 now = clock_.nowMs();
     while (port_.isOpen() && port_.bytesAvailable() > 0) {
         const QByteArray bytes = port_.read(port_.bytesAvailable());
         for (char byte : bytes) {
-            switch (parser_.feed(static_cast<quint8>(byte))) {
-                case FrameParser::Outcome::FrameComplete:
+            if (!receivingUnderWay()) frameStartMs_ = now;
+            const FrameParser::Outcome outcome = parser_.feed(static_cast<quint8>(byte));
+            lineUnderWay_ = parser_.lineMode() && outcome == FrameParser::Outcome::Pending;
+            switch (outcome) {
+                case FrameParser::Outcome::FrameComplete: {
+                    const QByteArray& payload = parser_.reply();
                     if (monitor_) {
-                        monitor_(parser_.reply());
+                        monitor_(payload);
+                    } else if (phase_ == Phase::AwaitingReply &&
+                               !accepted_.accepts(payload.size())) {
+                        if (owner_) owner_->replyIgnored(payload.size());
                     } else {
                         replyReady = true;
-                        reply = parser_.reply();
+                        *reply = payload;
                     }
                     break;
+                }
                 case FrameParser::Outcome::LineComplete:
                     replyReady = true;
-                    reply = parser_.lineBuffer();
+                    *reply = parser_.lineBuffer();
                     break;
                 default:
                     break;
             }
         }
     }
+    return replyReady;
+}
 
+void LinkTransport::onReceived() {
+    const bool awaiting = phase_ == Phase::AwaitingReply;
+    if (awaiting) replyTimer_->stop();
+    QByteArray reply;
+    const bool replyReady = parseInput(&reply);
     if (!awaiting || phase_ != Phase::AwaitingReply) return;
-    if (!replyReady) {
-        // The time-out runs again from the last byte; it also runs while a frame is half
-        // received, so that a frame cut short cannot hold the exchange for ever.
-        replyTimer_->start(replyTimeoutMs_);
+    if (replyReady) {
+        phase_ = Phase::Idle;
+        if (owner_) owner_->replyReceived(reply);
         return;
     }
-    phase_ = Phase::Idle;
-    if (owner_) owner_->replyReceived(reply);
+    // Bytes do not move the deadline.
+    armUntil(deadlineMs_);
 }
 
 void LinkTransport::onReplyTimer() {
     if (phase_ != Phase::AwaitingReply) return;
+    // A frame (or line) under way at the deadline may finish, once, for as long as its
+    // length takes on the line.
+    if (!deadlineExtended_ && receivingUnderWay()) {
+        deadlineExtended_ = true;
+        const int bytes =
+            parser_.lineMode() ? FrameParser::kLineBufferSize : parser_.frameBytesExpected();
+        const qint64 frameEnd =
+            frameStartMs_ + static_cast<qint64>(bytes * kByteMs) + kFrameSlackMs;
+        if (frameEnd > clock_.nowMs()) {
+            armUntil(frameEnd);
+            return;
+        }
+    }
     // A frame that stopped half way is given up with the time-out.
     if (!parser_.lineMode()) parser_.reset();
+    lineUnderWay_ = false;
     phase_ = Phase::Idle;
     ++timeouts_;
     if (!owner_) return;
@@ -176,8 +217,15 @@ void LinkTransport::onPortFailed(const QString& reason) {
     port_.setReceiveNotification(false);
     port_.close();
     const bool exchangeRunning = owner_ && phase_ != Phase::Idle;
+    // A frame that needs no reply and has drained is on its way: the port failing during the
+    // settle cannot take it back.
+    const bool sent = !awaitReply_ && phase_ == Phase::Settling;
     abort();
-    // A vanished port ends the exchange at once, like its last time-out.
-    if (exchangeRunning) owner_->exchangeFailed({LinkFailure::PortLost, reason});
+    if (exchangeRunning && sent) {
+        owner_->sendFinished();
+    } else if (exchangeRunning) {
+        // A vanished port ends the exchange at once, like its last time-out.
+        owner_->exchangeFailed({LinkFailure::PortLost, reason});
+    }
     Q_EMIT portLost(reason);
 }

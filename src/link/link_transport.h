@@ -19,9 +19,13 @@ class SerialPort;
 //
 // A request: the owner calls request(); the bytes go out one write per byte; once the port
 // has drained and 20 ms have passed, the input received meanwhile (the cable's echo of the
-// request, for one) is discarded, reception is switched on and the reply timer armed. A
-// time-out sends the same frame again until the attempts are used up; then the owner hears
-// exchangeFailed().
+// request, for one) is discarded, reception is switched on and the reply timer armed. Only a
+// good frame of a length the request accepts is its reply. A time-out sends the same frame
+// again until the attempts are used up; then the owner hears exchangeFailed().
+//
+// An attempt ends at its time-out, whatever else arrives: noise on the line does not keep it
+// alive. Only a frame (or text line) under way at that moment may finish, once, for as long
+// as its length takes at 9600 baud and a little more.
 class LinkTransport : public QObject {
     Q_OBJECT
 
@@ -31,6 +35,9 @@ public:
     // A fresh attempt count allows three attempts; the radio's tool expressed one attempt as
     // "counter preset to 2" and three as "counter zeroed".
     static constexpr int kMaxAttempts = 3;
+    // 10 bits a byte at 9600 baud, and what a USB adapter may add to a frame's arrival.
+    static constexpr double kByteMs = 10.0 * 1000.0 / 9600.0;
+    static constexpr int kFrameSlackMs = 50;
 
     LinkTransport(SerialPort& port, Clock& clock, QObject* parent = nullptr);
     ~LinkTransport() override;
@@ -48,9 +55,9 @@ public:
     // send_uart: transmits `frame` (at most 33 bytes) and awaits no reply; the owner hears
     // sendFinished(). Only the owner of the link sends.
     void send_uart(const QByteArray& frame);
-    // Transmits `frame` and awaits a reply for `replyTimeoutMs`, sending it again on each
-    // time-out, `attempts` times in all.
-    void request(const QByteArray& frame, int replyTimeoutMs, int attempts);
+    // Transmits `frame` and awaits a reply of one of the `accepted` lengths for
+    // `replyTimeoutMs`, sending it again on each time-out, `attempts` times in all.
+    void request(const QByteArray& frame, int replyTimeoutMs, int attempts, ReplyLengths accepted);
     // What the last request left of its attempts: at least one. A requester that carries on
     // "with the count the previous exchange left" asks for this many.
     int attemptsLeft() const;
@@ -81,6 +88,11 @@ private:
     void onSettleTimer();
     void onReceived();
     void onReplyTimer();
+    // Feeds what arrived to the parser; true with `reply` set when the reply is among it.
+    bool parseInput(QByteArray* reply);
+    void armAttempt();
+    void armUntil(qint64 deadlineMs);
+    bool receivingUnderWay() const;
     void onPortFailed(const QString& reason);
 
     SerialPort& port_;
@@ -97,6 +109,11 @@ private:
     QByteArray frame_;
     bool awaitReply_ = false;
     int replyTimeoutMs_ = 0;
+    ReplyLengths accepted_ = ReplyLengths::any();
+    qint64 deadlineMs_ = 0;    // of the attempt under way
+    qint64 frameStartMs_ = 0;  // when the frame or line being received began
+    bool lineUnderWay_ = false;
+    bool deadlineExtended_ = false;
     int attempts_ = kMaxAttempts;
     int timeouts_ = 0;  // of this request; the attempt on the line is timeouts_ + 1
     qint64 settleStart_ = 0;

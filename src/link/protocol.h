@@ -32,6 +32,9 @@ constexpr int kRxCustom = 7, kTxCustom = 9, kRxDcsHigh = 11, kTxDcsHigh = 12;
 constexpr int kRxStep625 = 0x01, kTxStep625 = 0x02, kWide = 0x04;
 constexpr int kRxInverted = 0x08, kTxInverted = 0x10, kHighPower = 0x20;
 
+// The radio acknowledges "X" and "W" with an empty frame.
+constexpr int kAcknowledgeLength = 0;
+
 // The code byte that marks a custom DCS code ("CDCSS").
 constexpr int kCdcssMarker = 162;
 

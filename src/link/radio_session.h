@@ -13,10 +13,11 @@ class SessionView;
 
 enum class SessionOutcome {
     Succeeded,
-    Refused,    // not started: the port was closed, a check failed, or the link was busy
-    TimedOut,   // the radio stopped answering (or the port failed); the reply timer reported it
-    Cancelled,  // the user closed the progress window
-    Failed,     // an error ended the session
+    Refused,     // not started: the port was closed, a check failed, or the link was busy
+    TimedOut,    // the radio stopped answering (or the port failed); the reply timer reported it
+    Cancelled,   // the user closed the progress window
+    Failed,      // an error ended the session
+    Incomplete,  // the session ran to its end, but some channels could not be taken
 };
 
 // What the read and the write session share: the link, the document they work on, the

@@ -2,6 +2,7 @@
 
 #include "link/link_transport.h"
 #include "link/memory_image.h"
+#include "link/protocol.h"
 #include "link/requests.h"
 #include "link/session_view.h"
 #include "model/editing.h"
@@ -21,6 +22,7 @@ bool ReadSession::start() {
         return false;
     }
     if (!claimLink()) return false;
+    unreadChannels_.clear();
     transport_.startReceiving();
     view_.setSessionButtonsEnabled(false);
     view_.showProgress(l10n::message(MessageId::MsgReadFromRadio, language_));
@@ -38,11 +40,30 @@ void ReadSession::cancel() {
 }
 
 void ReadSession::sendOpening() {
-    transport_.request(readSettingsRequest(), kOpeningReplyMs, kOpeningAttempts);
+    ignoredLength_ = -1;
+    transport_.request(readSettingsRequest(), kOpeningReplyMs, kOpeningAttempts,
+                       {protocol::kSettingsRecordSize});
 }
 
 void ReadSession::sendChannel() {
-    transport_.request(readChannelRequest(channel_), kChannelReplyMs, kChannelAttempts);
+    ignoredLength_ = -1;
+    transport_.request(readChannelRequest(channel_), kChannelReplyMs, kChannelAttempts,
+                       {protocol::kShortChannelRecord, protocol::kLongChannelRecord});
+}
+
+void ReadSession::replyIgnored(int length) {
+    ignoredLength_ = length;
+}
+
+void ReadSession::noteUnread(l10n::SessionText reason, int length) {
+    unreadChannels_ << l10n::sessionText(reason, language_).arg(channel_ + 1).arg(length);
+}
+
+void ReadSession::warnUnread() {
+    if (unreadChannels_.isEmpty()) return;
+    const QString heading = l10n::sessionText(l10n::SessionText::ChannelsNotRead, language_);
+    prompts_.showMessage(warningBox(
+        heading + QLatin1Char('\n') + unreadChannels_.join(QLatin1Char('\n')), language_));
 }
 
 void ReadSession::replyReceived(const QByteArray& payload) {
@@ -55,7 +76,9 @@ void ReadSession::replyReceived(const QByteArray& payload) {
             return;
         case Step::Channels: {
             Notices notices;
-            decode_channel(doc_, channel_, payload, &notices);
+            if (!decode_channel(doc_, channel_, payload, &notices)) {
+                noteUnread(l10n::SessionText::ChannelNotUnderstood);
+            }
             for (const Notice& notice : notices) {
                 prompts_.showMessage(warningBox(noticeText(notice, language_), language_));
             }
@@ -81,6 +104,8 @@ void ReadSession::exchangeFailed(const LinkFailure&) {
             return;
         case Step::Channels:
             presentLinkFailure();
+            if (ignoredLength_ >= 0)
+                noteUnread(l10n::SessionText::ChannelWrongLength, ignoredLength_);
             errorEnd(SessionOutcome::TimedOut);
             return;
         case Step::Idle:
@@ -92,6 +117,13 @@ void ReadSession::successEnd() {
     step_ = Step::Idle;
     RESET_TEXT(doc_);
     end_session();
+    if (!unreadChannels_.isEmpty()) {
+        // Not a success: the plan holds channels the radio does not.
+        status(MessageId::MsgReadFailed);
+        warnUnread();
+        finish(SessionOutcome::Incomplete);
+        return;
+    }
     status(MessageId::MsgReadDone);
     box(MessageId::MsgReadDone, MessageId::MsgReadDone);
     finish(SessionOutcome::Succeeded);
@@ -100,6 +132,7 @@ void ReadSession::successEnd() {
 void ReadSession::errorEnd(SessionOutcome outcome) {
     step_ = Step::Idle;
     end_session();
+    warnUnread();
     status(MessageId::MsgReadFailed);
     box(MessageId::MsgReadFailed, MessageId::MsgReadFailed);
     finish(outcome);

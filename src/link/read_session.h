@@ -1,10 +1,15 @@
 #pragma once
 
+#include <QStringList>
+
+#include "l10n/session_texts.h"
 #include "link/radio_session.h"
 
 // Reading the radio into the document: the settings request "S" (three attempts, 1 s each),
 // then "R" for each of the 25 slots (one attempt of 5 s each), each reply decoded into the
-// document as it comes. Slots read before a failure keep their new contents.
+// document as it comes. Slots read before a failure keep their new contents. A reply must
+// have the length of its record; a channel whose reply did not fit, or whose record cannot be
+// read, is named to the user and the read does not count as a success.
 class ReadSession : public RadioSession {
     Q_OBJECT
 
@@ -24,6 +29,10 @@ public:
 
     void replyReceived(const QByteArray& payload) override;
     void exchangeFailed(const LinkFailure& failure) override;
+    void replyIgnored(int length) override;
+
+    // Channels (0-based slots) the last read could not take, each with the reason as shown.
+    const QStringList& unreadChannels() const { return unreadChannels_; }
 
 private:
     enum class Step { Idle, Opening, Channels };
@@ -32,7 +41,12 @@ private:
     void sendChannel();
     void successEnd();
     void errorEnd(SessionOutcome outcome);
+    void noteUnread(l10n::SessionText reason, int length = 0);
+    // The list of unread channels, when there is one.
+    void warnUnread();
 
     Step step_ = Step::Idle;
-    int channel_ = 0;  // ChannelCounter
+    int channel_ = 0;         // ChannelCounter
+    int ignoredLength_ = -1;  // of a reply to the current request that did not fit it
+    QStringList unreadChannels_;
 };

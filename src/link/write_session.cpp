@@ -4,6 +4,7 @@
 
 #include "link/link_transport.h"
 #include "link/memory_image.h"
+#include "link/protocol.h"
 #include "link/requests.h"
 #include "link/session_view.h"
 #include "model/editing.h"
@@ -93,7 +94,8 @@ void WriteSession::cancel() {
 }
 
 void WriteSession::sendSettings() {
-    transport_.request(encode_settings(doc_), kReplyMs, kSettingsAttempts);
+    transport_.request(encode_settings(doc_), kReplyMs, kSettingsAttempts,
+                       {protocol::kAcknowledgeLength});
 }
 
 void WriteSession::sendChannel() {
@@ -102,11 +104,12 @@ void WriteSession::sendChannel() {
         errorEnd();
         return;
     }
-    transport_.request(std::get<QByteArray>(frame), kReplyMs, kChannelAttempts);
+    transport_.request(std::get<QByteArray>(frame), kReplyMs, kChannelAttempts,
+                       {protocol::kAcknowledgeLength});
 }
 
 void WriteSession::replyReceived(const QByteArray&) {
-    // Any valid frame acknowledges; what it carries does not matter.
+    // An empty frame acknowledges; its command byte does not matter.
     switch (step_) {
         case Step::Opening:
             advanceProgress(kProgressPerRecord);

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+
 #include "link/requests.h"
 #include "session_fixture.h"
 #include "sim/sim_memory.h"
@@ -126,28 +128,75 @@ TEST_F(ReadSessionTest, AFaultAtAChannelEndsTheReadWithTheSlotsBeforeItRead) {
     }
 }
 
-TEST_F(ReadSessionTest, RepliesThatCannotBeTakenLeaveTheirSlotsAndTheReadGoesOn) {
+// Request 1 is "S", request k + 2 the "R" of slot k.
+TEST_F(ReadSessionTest, RepliesThatDoNotFitAreNeverTakenAndTheUserLearnsWhichChannels) {
+    const QByteArray unreadable = QByteArray::fromHex("1cc11cc1 05 05 01 029e 029e 0000");
     const struct {
         const char* name;
-        QSet<int> SimFaults::*fault;
-        bool slotsChanged;
+        std::function<void(SessionFixture&)> fault;
+        SessionOutcome outcome;
+        QStringList unread;
+        bool slot3Read;
     } cases[] = {
-        {"wrong length", &SimFaults::wrongLength, false},
-        {"garbage before the reply", &SimFaults::garbage, true},
+        {"garbage before every reply",
+         [](SessionFixture& w) {
+             SimFaults faults;
+             for (int request = 2; request <= 26; ++request) faults.garbage.insert(request);
+             w.radio.setFaults(faults);
+         },
+         SessionOutcome::Succeeded,
+         {},
+         true},
+        {"every channel reply one byte too long",
+         [](SessionFixture& w) {
+             SimFaults faults;
+             for (int request = 2; request <= 26; ++request) faults.wrongLength.insert(request);
+             w.radio.setFaults(faults);
+         },
+         SessionOutcome::TimedOut,
+         {"channel 1: the radio's reply had the wrong length (12 bytes)"},
+         false},
+        {"a 13-byte record without a custom DCS code at channel 5",
+         [&](SessionFixture& w) { w.radio.setChannelRecord(4, unreadable); },
+         SessionOutcome::Incomplete,
+         {"channel 5: the radio's channel record cannot be read"},
+         true},
     };
     for (const auto& c : cases) {
         SessionFixture world;
         Codeplug plan = validPlan();
         const Codeplug before = plan;
         ReadSession read(world.transport, plan, world.prompts, world.view);
-        SimFaults faults;
-        for (int request = 2; request <= 26; ++request) (faults.*c.fault).insert(request);
-        world.radio.setFaults(faults);
+        c.fault(world);
         ASSERT_TRUE(read.start());
         world.clock.advanceUntil([&] { return !read.isRunning(); }, kLongEnough);
-        EXPECT_EQ(read.outcome(), SessionOutcome::Succeeded) << c.name;
-        EXPECT_EQ(world.prompts.statusTexts().last(), "Read OK") << c.name;
-        EXPECT_EQ(plan.plan[3].rxfreq != before.plan[3].rxfreq, c.slotsChanged) << c.name;
+        EXPECT_EQ(read.outcome(), c.outcome) << c.name;
+        EXPECT_EQ(read.unreadChannels(), c.unread) << c.name;
+        EXPECT_EQ(plan.plan[3].rxfreq != before.plan[3].rxfreq, c.slot3Read) << c.name;
+        const QStringList said = world.prompts.transcript();
+        EXPECT_EQ(said.last(), c.outcome == SessionOutcome::Succeeded ? "box: Read OK | Read OK"
+                               : c.outcome == SessionOutcome::TimedOut
+                                   ? "box: Read Error | Read Error"
+                                   : "box: These channels could not be read and keep their "
+                                     "previous contents:\n" +
+                                         c.unread.join('\n') + " | NOTE | warning")
+            << c.name;
+        EXPECT_FALSE(said.contains("status: Read OK") && c.outcome != SessionOutcome::Succeeded)
+            << c.name;
+        if (c.outcome == SessionOutcome::Incomplete) {
+            EXPECT_EQ(plan.plan[4].rxfreq, before.plan[4].rxfreq) << c.name;
+            EXPECT_EQ(world.requestsWithCommand('R'), 25) << c.name;
+        }
+    }
+}
+
+TEST_F(ReadSessionTest, ALateReplyToTheOpeningIsNotTakenForAChannel) {
+    radio.setLatencyMs(1100);
+    runRead();
+    EXPECT_EQ(session.outcome(), SessionOutcome::Succeeded);
+    for (int slot = 0; slot < kSlotCount; ++slot) {
+        EXPECT_EQ(doc.plan[slot].rxfreq, formatFrequencyValue(446.00625 + slot * 0.0125))
+            << "slot " << slot;
     }
 }
 

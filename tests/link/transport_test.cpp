@@ -18,7 +18,9 @@ struct Client : LinkClient {
     std::vector<std::pair<qint64, LinkFailure>> failures;
     int closedOnSend = 0;
     std::vector<qint64> sendsFinished;
+    std::vector<int> ignored;
 
+    void replyIgnored(int length) override { ignored.push_back(length); }
     void replyReceived(const QByteArray& payload) override { replies.push_back(payload); }
     void attemptTimedOut(int attempt) override {
         attemptTimeouts.push_back({clock.nowMs(), attempt});
@@ -31,6 +33,7 @@ struct Client : LinkClient {
 };
 
 const QByteArray kSettingsRequest = QByteArray::fromHex("53030000045a");
+const ReplyLengths kAny = ReplyLengths::any();
 
 class TransportTest : public ::testing::Test {
 protected:
@@ -63,7 +66,7 @@ TEST_F(TransportTest, SendsOneWritePerByteThenSettlesAndOpensReception) {
 }
 
 TEST_F(TransportTest, WhatArrivesWhileSettlingNeverReachesTheParser) {
-    transport.request(kSettingsRequest, 1000, 3);
+    transport.request(kSettingsRequest, 1000, 3, kAny);
     clock.advance(10);
     port.inject(hexBytes("4101 07"));  // the start of a frame, during the settle
     clock.advance(10);
@@ -79,7 +82,7 @@ TEST_F(TransportTest, ATimeOutSendsTheSameFrameAgainUntilTheAttemptsAreUsedUp) {
         client.failures.clear();
         port.takeWritten();
         const qint64 start = clock.nowMs();
-        transport.request(kSettingsRequest, 1000, attempts);
+        transport.request(kSettingsRequest, 1000, attempts, kAny);
         clock.advance(5000);
         // Each attempt: 20 ms to settle, then 1000 ms for the reply.
         std::vector<std::pair<qint64, int>> expectedTimeouts;
@@ -96,7 +99,7 @@ TEST_F(TransportTest, ATimeOutSendsTheSameFrameAgainUntilTheAttemptsAreUsedUp) {
 }
 
 TEST_F(TransportTest, AReplyEndsTheAttemptsAndLeavesTheRestForTheNextExchange) {
-    transport.request(kSettingsRequest, 1000, 3);
+    transport.request(kSettingsRequest, 1000, 3, kAny);
     clock.advance(1020 + 20);
     port.inject(hexBytes("4100 41"));
     ASSERT_EQ(client.replies.size(), 1u);
@@ -119,7 +122,7 @@ TEST_F(TransportTest, AnOwnerThatCancelsOnATimeOutStopsTheResend) {
     cancelling.transport = &transport;
     transport.release(&client);
     ASSERT_TRUE(transport.acquire(&cancelling));
-    transport.request(kSettingsRequest, 1000, 3);
+    transport.request(kSettingsRequest, 1000, 3, kAny);
     clock.advance(5000);
     EXPECT_EQ(cancelling.attemptTimeouts.size(), 1u);
     EXPECT_EQ(port.takeWritten(), kSettingsRequest);
@@ -130,7 +133,7 @@ TEST_F(TransportTest, OnlyTheOwnerOfTheLinkSends) {
     Client other{clock};
     EXPECT_FALSE(transport.acquire(&other));
     transport.release(&client);
-    transport.request(kSettingsRequest, 1000, 3);
+    transport.request(kSettingsRequest, 1000, 3, kAny);
     transport.send_uart(hexBytes("450045"));
     clock.advance(5000);
     EXPECT_TRUE(port.writes.empty());
@@ -139,45 +142,80 @@ TEST_F(TransportTest, OnlyTheOwnerOfTheLinkSends) {
 }
 
 TEST_F(TransportTest, TwoFramesInOneEventGiveTheSecond) {
-    transport.request(kSettingsRequest, 1000, 3);
+    transport.request(kSettingsRequest, 1000, 3, kAny);
     clock.advance(20);
     port.inject(hexBytes("4101 07 49 4101 08 4a"));
     ASSERT_EQ(client.replies.size(), 1u);
     EXPECT_EQ(client.replies[0], hexBytes("08"));
 }
 
-TEST_F(TransportTest, TheTimeOutRunsAgainFromEachReceiveEvent) {
+TEST_F(TransportTest, WhatArrivesDoesNotPutOffTheTimeOutUnlessAFrameIsUnderWay) {
     const struct {
         const char* name;
+        int atMs;  // after the reply timer was armed
         QByteArray bytes;
+        qint64 timeOutAtMs;
     } cases[] = {
-        {"bad checksum", hexBytes("4101 07 00")},
-        {"garbage", hexBytes("00ff")},
-        {"frame cut after its command byte", hexBytes("41")},
+        {"bad checksum", 500, hexBytes("4101 07 00"), 1000},
+        {"garbage", 500, hexBytes("00ff"), 1000},
+        {"frame cut after its length byte", 500, hexBytes("4108"), 1000},
+        // 11 bytes at 9600 baud take 11.5 ms; the adapter may add 50 ms.
+        {"frame still arriving at the time-out", 995, hexBytes("4108 0102"), 995 + 11 + 50},
+        {"frame with no length yet", 995, hexBytes("41"), 995 + 138 + 50},
     };
     for (const auto& c : cases) {
         client.failures.clear();
         client.replies.clear();
-        transport.request(kSettingsRequest, 1000, 1);
+        transport.request(kSettingsRequest, 1000, 1, kAny);
         const qint64 armed = clock.nowMs() + 20;
-        clock.advance(20 + 500);
+        clock.advance(20 + c.atMs);
         port.inject(c.bytes);
-        clock.advance(999);
+        clock.advance(c.timeOutAtMs - c.atMs - 1);
         EXPECT_TRUE(client.failures.empty()) << c.name;
         clock.advance(1);
         ASSERT_EQ(client.failures.size(), 1u) << c.name;
-        EXPECT_EQ(client.failures[0].first, armed + 1500) << c.name;
+        EXPECT_EQ(client.failures[0].first, armed + c.timeOutAtMs) << c.name;
         // The next frame is read from its first byte, whatever was left half way.
-        transport.request(kSettingsRequest, 1000, 3);
+        transport.request(kSettingsRequest, 1000, 3, kAny);
         clock.advance(20);
         port.inject(hexBytes("4100 41"));
         EXPECT_EQ(client.replies.size(), 1u) << c.name;
     }
 }
 
+TEST_F(TransportTest, NoiseOnTheLineCannotKeepAnAttemptAlive) {
+    transport.request(kSettingsRequest, 1000, 1, kAny);
+    for (int ms = 0; ms < 10'000 && client.failures.empty(); ms += 10) {
+        clock.advance(10);
+        port.inject(hexBytes("00 41 ff 3c 41 05 00 01"));
+    }
+    ASSERT_EQ(client.failures.size(), 1u);
+    EXPECT_LE(client.failures[0].first, 20 + 1000 + 138 + 50);
+}
+
+TEST_F(TransportTest, AFrameOfALengthTheRequestDoesNotTakeIsIgnoredAndTheWaitGoesOn) {
+    transport.request(kSettingsRequest, 1000, 1, {4});
+    clock.advance(20 + 100);
+    port.inject(hexBytes("4101 07 49"));
+    EXPECT_TRUE(client.replies.empty());
+    EXPECT_EQ(client.ignored, std::vector<int>{1});
+    port.inject(hexBytes("4404 13001000 6b"));
+    ASSERT_EQ(client.replies.size(), 1u);
+    EXPECT_EQ(client.replies[0], hexBytes("13001000"));
+}
+
+TEST_F(TransportTest, APortThatFailsAfterAnUnansweredFrameHasDrainedTakesNothingBack) {
+    port.drainDelayMs = 3;
+    transport.send_uart(hexBytes("450045"));
+    clock.advance(3 + 10);
+    port.fail();
+    EXPECT_EQ(client.sendsFinished.size(), 1u);
+    EXPECT_TRUE(client.failures.empty());
+}
+
 TEST_F(TransportTest, AClosedPortSendsNothingAndTheRequesterTimesOut) {
     port.close();
-    transport.request(kSettingsRequest, 1000, 2);
+    transport.request(kSettingsRequest, 1000, 2, kAny);
     EXPECT_TRUE(port.writes.empty());
     EXPECT_EQ(client.closedOnSend, 1);
     clock.advance(1000);
@@ -188,7 +226,7 @@ TEST_F(TransportTest, AClosedPortSendsNothingAndTheRequesterTimesOut) {
 }
 
 TEST_F(TransportTest, APortFailureEndsTheExchangeAndClosesThePort) {
-    transport.request(kSettingsRequest, 1000, 3);
+    transport.request(kSettingsRequest, 1000, 3, kAny);
     clock.advance(100);
     QStringList lost;
     QObject::connect(&transport, &LinkTransport::portLost,
@@ -207,7 +245,7 @@ TEST_F(TransportTest, APortFailureEndsTheExchangeAndClosesThePort) {
 TEST_F(TransportTest, MonitorModeTakesEveryFrame) {
     std::vector<QByteArray> monitored;
     transport.setMonitor([&](const QByteArray& payload) { monitored.push_back(payload); });
-    transport.request(hexBytes("6a0100 6b"), 1000, 3);
+    transport.request(hexBytes("6a0100 6b"), 1000, 3, kAny);
     clock.advance(20);
     port.inject(hexBytes("4101 07 49 4101 08 4a"));
     EXPECT_EQ(monitored, (std::vector<QByteArray>{hexBytes("07"), hexBytes("08")}));
