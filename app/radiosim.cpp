@@ -45,6 +45,7 @@ int main(int argc, char** argv) {
     std::vector<int> badChecksum, garbage, cut, wrongLength;
     int hangUp = 0;
     bool noise = false;
+    cli.set_version_flag("--version", "radiosim " RADIOPROG_VERSION);
     cli.add_flag("--pace", pace, "pace both directions at 9600 baud");
     cli.add_option("--latency", latency, "reply latency in ms")->check(CLI::Range(0, 60000));
     cli.add_option("--silent", silent, "leave requests unanswered: all, or numbers like 3,5");

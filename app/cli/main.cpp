@@ -28,6 +28,7 @@ int main(int argc, char** argv) {
 
     CLI::App app{"radioprog-cli: programs the hand-held radio's channel plan from a terminal"};
     app.require_subcommand(1);
+    app.set_version_flag("--version", "radioprog-cli " RADIOPROG_VERSION);
     GlobalOptions global;
     app.add_option("--config", global.configDir, "folder that holds config.ini");
     app.add_option("--lang", global.lang, "language of the output: zh or en")

@@ -26,6 +26,7 @@ bool ReadSession::start() {
     transport_.startReceiving();
     view_.setSessionButtonsEnabled(false);
     view_.showProgress(l10n::message(MessageId::MsgReadFromRadio, language_));
+    view_.setProgressGoal(kSlotCount * kProgressPerChannel);
     status(MessageId::MsgReading);
     view_.pauseStatusTimers();
     step_ = Step::Opening;

@@ -17,6 +17,9 @@ public:
     // Shows the progress window with its bar, under `caption`.
     virtual void showProgress(const QString& caption) = 0;
     virtual void setProgress(int value) = 0;
+    // Where the bar will stand when the session has run to its end; the bar's own maximum is
+    // larger (a read has always ended at 75 of 246). Views that show a percentage use it.
+    virtual void setProgressGoal(int value) { (void)value; }
     // Bar to 0; bar and window hidden.
     virtual void hideProgress() = 0;
     // Timer1 (port state in the status bar) and Timer2. Resumed, the status bar shows the port

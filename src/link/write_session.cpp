@@ -75,6 +75,7 @@ bool WriteSession::start() {
     view_.pauseStatusTimers();
     view_.setSessionButtonsEnabled(false);
     view_.showProgress(l10n::serviceCaption(l10n::SvcWriteToRadio, language_));
+    view_.setProgressGoal((kSlotCount + 1) * kProgressPerRecord);
     status(MessageId::MsgWriting);
     step_ = Step::Opening;
     sendSettings();

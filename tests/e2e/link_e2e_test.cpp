@@ -3,10 +3,13 @@
 #include <gtest/gtest.h>
 
 #include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QFile>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <csignal>
+#include <cstring>
 
 #include "model/code_tables.h"
 #include "model/editing.h"
@@ -149,6 +152,83 @@ TEST_F(LinkEndToEnd, AHangUpEndsTheWriteWithThePortClosed) {
     const QStringList said = lines(write.err);
     EXPECT_TRUE(said.contains("message [NOTE]: Transmission Error，Check Radio"));
     EXPECT_EQ(said.last(), "status: COM Closed");
+}
+
+TEST_F(LinkEndToEnd, ALateReplyToTheOpeningShiftsNoChannel) {
+    const QString device = startRadio({"--latency", "1100"});
+    const CliRun read = cli({"read", "--port", device});
+    EXPECT_EQ(read.exitCode, 0) << read.err.toStdString();
+    const QStringList plan = lines(read.out);
+    // The radio's first and last channels, where they belong.
+    EXPECT_TRUE(plan.filter(QRegularExpression("^ *1 .*446\\.00625")).size() == 1)
+        << read.out.toStdString();
+    EXPECT_TRUE(plan.filter(QRegularExpression("^ *25 .*446\\.30625")).size() == 1)
+        << read.out.toStdString();
+}
+
+TEST_F(LinkEndToEnd, ALineOfRandomBytesIsNeitherReadNorWritten) {
+    ASSERT_FALSE(WriteSaveFile(samplePlan(), path("plan.qzv")).has_value());
+    const QString device = startRadio({"--noise", "--pace"});
+    for (const QStringList& command :
+         {QStringList{"read", "--port", device, "-o", path("read.qzv")},
+          QStringList{"write", "--port", device, path("plan.qzv")}}) {
+        QElapsedTimer took;
+        took.start();
+        const CliRun run = cli(command);
+        EXPECT_EQ(run.exitCode, 1) << command.join(' ').toStdString();
+        EXPECT_FALSE(run.err.contains(" OK")) << run.err.toStdString();
+        // Three opening attempts, each at most its time-out and one frame longer.
+        EXPECT_LT(took.elapsed(), 3 * (5000 + 200) + 2000) << command.join(' ').toStdString();
+    }
+    EXPECT_FALSE(QFile::exists(path("read.qzv")));
+}
+
+TEST_F(LinkEndToEnd, ARadioThatHangsUpRightAfterTheClosingFrameWasWritten) {
+    ASSERT_FALSE(WriteSaveFile(samplePlan(), path("plan.qzv")).has_value());
+    const QString device = startRadio({"--hang-up", "27", "--pace"});
+    const CliRun write = cli({"write", "--port", device, path("plan.qzv")});
+    EXPECT_EQ(write.exitCode, 0) << write.err.toStdString();
+    EXPECT_TRUE(lines(write.err).contains("message: Write OK")) << write.err.toStdString();
+}
+
+TEST_F(LinkEndToEnd, TerminationAndHangUpCancelAWriteAndSaySo) {
+    ASSERT_FALSE(WriteSaveFile(samplePlan(), path("plan.qzv")).has_value());
+    for (int signalNumber : {SIGTERM, SIGHUP}) {
+        const QString device = startRadio({"--silent", "all"});
+        QProcess write;
+        write.setReadChannel(QProcess::StandardError);
+        write.start(QStringLiteral(CLI_PATH), {"--config", dir_.path(), "--lang", "en", "write",
+                                               "--port", device, path("plan.qzv")});
+        QByteArray err;
+        while (!err.contains("Writing") && write.waitForReadyRead(5000)) {
+            err += write.readAllStandardError();
+        }
+        ASSERT_GT(write.processId(), 0) << "the write ended before it could be stopped";
+        ::kill(static_cast<pid_t>(write.processId()), signalNumber);
+        ASSERT_TRUE(write.waitForFinished(10'000));
+        EXPECT_EQ(write.exitStatus(), QProcess::NormalExit) << signalNumber;
+        EXPECT_EQ(write.exitCode(), 1) << signalNumber;
+        err += write.readAllStandardError();
+        const QStringList said = lines(QString::fromUtf8(err));
+        EXPECT_TRUE(said.contains(QStringLiteral("radioprog-cli: stopped by %1")
+                                      .arg(QString::fromLocal8Bit(::strsignal(signalNumber)))))
+            << err.toStdString();
+        EXPECT_TRUE(said.contains("message [NOTE]: Write Error，Please Check"))
+            << err.toStdString();
+        sim_.terminate();
+        sim_.waitForFinished(5000);
+    }
+}
+
+TEST_F(LinkEndToEnd, BothProgramsTellTheirVersion) {
+    const CliRun cliVersion = cli({"--version"});
+    EXPECT_EQ(cliVersion.exitCode, 0);
+    EXPECT_TRUE(cliVersion.out.startsWith("radioprog-cli ")) << cliVersion.out.toStdString();
+    QProcess sim;
+    sim.start(QStringLiteral(RADIOSIM_PATH), {"--version"});
+    ASSERT_TRUE(sim.waitForFinished(5000));
+    EXPECT_EQ(sim.exitCode(), 0);
+    EXPECT_TRUE(sim.readAllStandardOutput().startsWith("radiosim "));
 }
 
 TEST_F(LinkEndToEnd, BadUsageAndUnreadableFilesExitWithTwo) {
