@@ -115,6 +115,14 @@ void SimRadio::handleRequest(quint8 command, const QByteArray& payload) {
     // A request the radio does not hear changes nothing.
     if (faults_.silentFor(request)) return;
 
+    if (SimBootloader::handles(command)) {
+        if (const auto answer = bootloader_.handle(command, payload, faults_)) {
+            reply(answer->payload.isEmpty() ? kAcknowledge : kRecordReply, answer->payload,
+                  answer->delayMs);
+        }
+        return;
+    }
+
     const int block = byteAt(payload, 0);
     const int size = static_cast<int>(payload.size());
     const int recordSize = size - kAddressBytes;
@@ -148,7 +156,7 @@ void SimRadio::handleRequest(quint8 command, const QByteArray& payload) {
     }
 }
 
-void SimRadio::reply(quint8 command, const QByteArray& payload) {
+void SimRadio::reply(quint8 command, const QByteArray& payload, int extraDelayMs) {
     const int request = requestCount_;
     QByteArray body = payload;
     QString faults;
@@ -169,8 +177,9 @@ void SimRadio::reply(quint8 command, const QByteArray& payload) {
         bytes.prepend(kGarbage);
         faults += QStringLiteral(" garbage");
     }
-    pending_.push_back({clock_.nowMs() + latencyMs_, bytes, faults.trimmed()});
-    if (!replyTimer_->isActive()) replyTimer_->start(latencyMs_);
+    const int delayMs = latencyMs_ + extraDelayMs;
+    pending_.push_back({clock_.nowMs() + delayMs, bytes, faults.trimmed()});
+    if (!replyTimer_->isActive()) replyTimer_->start(delayMs);
 }
 
 void SimRadio::sendDue() {

@@ -8,6 +8,7 @@
 #include <memory>
 
 #include "platform/clock.h"
+#include "sim/sim_bootloader.h"
 #include "sim/sim_faults.h"
 
 // The radio side of the programming protocol: it keeps a settings record and 25 channel
@@ -52,6 +53,8 @@ public:
         channels_.at(static_cast<size_t>(slot)) = record;
     }
 
+    SimBootloader& bootloader() { return bootloader_; }
+
     int requestCount() const { return requestCount_; }
     bool programmingEnded() const { return programmingEnded_; }
     bool hungUp() const { return hungUp_; }
@@ -59,7 +62,7 @@ public:
 private:
     void feed(quint8 byte);
     void handleRequest(quint8 command, const QByteArray& payload);
-    void reply(quint8 command, const QByteArray& payload);
+    void reply(quint8 command, const QByteArray& payload, int extraDelayMs = 0);
     void sendDue();
     void sendNoise();
     void note(TraceKind kind, const QByteArray& bytes, const QString& text = {});
@@ -71,6 +74,7 @@ private:
     SimFaults faults_;
     int latencyMs_ = kDefaultLatencyMs;
 
+    SimBootloader bootloader_;
     QByteArray settings_;
     std::array<QByteArray, kChannelCount> channels_;
 
