@@ -136,7 +136,6 @@ void LinkTransport::armAttempt() {
 }
 
 void LinkTransport::armUntil(qint64 deadlineMs) {
-    deadlineMs_ = deadlineMs;
     replyTimer_->start(static_cast<int>(std::max<qint64>(0, deadlineMs - clock_.nowMs())));
 }
 
@@ -177,17 +176,13 @@ bool LinkTransport::parseInput(QByteArray* reply) {
 
 void LinkTransport::onReceived() {
     const bool awaiting = phase_ == Phase::AwaitingReply;
-    if (awaiting) replyTimer_->stop();
     QByteArray reply;
     const bool replyReady = parseInput(&reply);
-    if (!awaiting || phase_ != Phase::AwaitingReply) return;
-    if (replyReady) {
-        phase_ = Phase::Idle;
-        if (owner_) owner_->replyReceived(reply);
-        return;
-    }
-    // Bytes do not move the deadline.
-    armUntil(deadlineMs_);
+    // Bytes do not move the deadline: only the reply ends the wait.
+    if (!awaiting || phase_ != Phase::AwaitingReply || !replyReady) return;
+    replyTimer_->stop();
+    phase_ = Phase::Idle;
+    if (owner_) owner_->replyReceived(reply);
 }
 
 void LinkTransport::onReplyTimer() {

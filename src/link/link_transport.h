@@ -119,7 +119,6 @@ private:
     SendStyle style_ = SendStyle::Settled;
     int replyTimeoutMs_ = 0;
     ReplyLengths accepted_ = ReplyLengths::any();
-    qint64 deadlineMs_ = 0;    // of the attempt under way
     qint64 frameStartMs_ = 0;  // when the frame or line being received began
     bool lineUnderWay_ = false;
     bool deadlineExtended_ = false;
