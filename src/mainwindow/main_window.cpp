@@ -76,6 +76,7 @@ MainWindow::MainWindow(MainWindowSetup setup, SerialPort& port, Clock& clock,
     progress_->hide();
     connect(progress_, &ProgressWindow::closedByUser, this, &MainWindow::progressClosedByUser);
 
+    statusTimer_.setParent(this);  // found by name, like the widgets
     statusTimer_.setObjectName(QStringLiteral("Timer1"));
     statusTimer_.setSingleShot(true);
     statusTimer_.setInterval(kStatusTimerMs);
@@ -91,7 +92,6 @@ MainWindow::MainWindow(MainWindowSetup setup, SerialPort& port, Clock& clock,
 MainWindow::~MainWindow() {
     // A session still under way must not outlive the transport and document it works on.
     if (session_ && session_->isRunning()) session_->cancel();
-    session_.reset();
 }
 
 void MainWindow::startUp(const std::optional<int>& portToSelect) {

@@ -129,6 +129,7 @@ private:
     PortControl portControl_;
     LinkTransport transport_;
     std::unique_ptr<RadioSession> session_;
+    std::unique_ptr<RadioSession> finishedSession_;
     std::optional<StatusText> status_;  // the message shown, with only its suffix as text
 
     QTimer statusTimer_;  // Timer1: the port state in the status bar, a second after resuming

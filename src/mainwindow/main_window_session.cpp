@@ -69,19 +69,21 @@ void MainWindow::startWrite() {
 
 void MainWindow::startSession(std::unique_ptr<RadioSession> session) {
     if (session_) return;
+    finishedSession_.reset();
     closeGridEditor();
     RadioSession* started = session.get();
     connect(started, &RadioSession::finished, this, &MainWindow::sessionFinished);
     session_ = std::move(session);
     if (!started->start() && session_.get() == started) {
         // Refused before anything happened; the user has been told why.
-        session_.release()->deleteLater();
+        session_.reset();
     }
 }
 
 void MainWindow::sessionFinished() {
-    // The session is still on the stack that reported its end.
-    if (session_) session_.release()->deleteLater();
+    // The session is still on the stack that reported its end; it goes at the next start, or
+    // with the window, before the transport it knows.
+    finishedSession_ = std::move(session_);
     refreshDocumentViews();
 }
 

@@ -18,6 +18,8 @@ QString PortWithSimulator::simulatorDevice() {
 
 void PortWithSimulator::setSimulatorPacing(bool on) { simulator_->setPacing(on); }
 
+SimRadio& PortWithSimulator::simulatedRadio() { return simulator_->radio(); }
+
 void PortWithSimulator::attach(SerialPort& inner) {
     // The inner ports always report arrivals; whether anyone hears of them is this port's
     // receive notification, which the link switches.

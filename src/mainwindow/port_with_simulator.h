@@ -5,6 +5,7 @@
 #include "platform/serial_port.h"
 
 class Clock;
+class SimRadio;
 class SimulatedRadioPort;
 
 // The desktop program's one port to the radio: the machine's serial devices through
@@ -21,6 +22,7 @@ public:
     static QString simulatorDevice();
     // The simulated line at 9600 baud, so that a read takes as long as with a radio.
     void setSimulatorPacing(bool on);
+    SimRadio& simulatedRadio();
 
     PortOpenError open(const QString& device) override;
     void close() override;
