@@ -55,6 +55,8 @@ QVariant ChannelGridModel::data(const QModelIndex& index, int role) const {
         case Qt::TextAlignmentRole:
             return int(Qt::AlignCenter);
         case Qt::ForegroundRole:
+            // The channel numbers are never cells, but they show which rows are active.
+            if (column == ChannelNumber && isSlotEnabled(slot)) return QBrush(Qt::black);
             if (column == Power && isSlotEnabled(slot) &&
                 powerColour(doc_.plan[slot].power) == kPowerColourHigh) {
                 return QBrush(Qt::red);

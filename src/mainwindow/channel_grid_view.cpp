@@ -26,6 +26,8 @@ QWidget* ChannelGridDelegate::createEditor(QWidget* parent, const QStyleOptionVi
         picker->setObjectName(column == ChannelGridModel::RxCode ? QStringLiteral("Combo3")
                                                                  : QStringLiteral("Combo2"));
         picker->addItems(model_.document().codeTable);
+        // A scrolling list of twenty entries rather than one as tall as the screen.
+        picker->setStyleSheet(QStringLiteral("combobox-popup: 0;"));
         picker->setMaxVisibleItems(20);
         connect(picker, &QComboBox::activated, this, [this, picker] {
             picker->setProperty(kPickedProperty, true);
@@ -98,6 +100,9 @@ ChannelGridView::ChannelGridView(ChannelGridModel& model, QWidget* parent)
     horizontalHeader()->setSectionResizeMode(ChannelGridModel::ChannelNumber,
                                              QHeaderView::ResizeToContents);
     horizontalHeader()->setHighlightSections(false);
+    // A frequency never shows cut: a narrow window scrolls instead.
+    horizontalHeader()->setMinimumSectionSize(
+        fontMetrics().horizontalAdvance(QStringLiteral("000.000000")) + 12);
     connect(this, &QTableView::clicked, this, &ChannelGridView::onClicked);
 }
 

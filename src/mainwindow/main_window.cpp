@@ -92,6 +92,9 @@ MainWindow::MainWindow(MainWindowSetup setup, SerialPort& port, Clock& clock,
 MainWindow::~MainWindow() {
     // A session still under way must not outlive the transport and document it works on.
     if (session_ && session_->isRunning()) session_->cancel();
+    // Child widgets outlive the members; the grid and its model must go before the document.
+    delete grid_;
+    delete gridModel_;
 }
 
 void MainWindow::startUp(const std::optional<int>& portToSelect) {
@@ -122,6 +125,8 @@ void MainWindow::startUp(const std::optional<int>& portToSelect) {
 void MainWindow::showWithSplash() {
     show();
     splash_ = new SplashScreen();
+    splash_->adjustSize();
+    splash_->move(frameGeometry().center() - splash_->rect().center());
     splash_->show();
     splash_->raise();
     splash_->setFocus();

@@ -35,11 +35,7 @@ void MainWindow::WidgetSessionView::setSessionButtonsEnabled(bool enabled) {
 }
 
 void MainWindow::WidgetSessionView::showProgress(const QString& caption) {
-    ProgressWindow& progress = *window_.progress_;
-    progress.setWindowTitle(caption);
-    progress.bar().setValue(0);
-    progress.show();
-    progress.raise();
+    window_.progress_->showOver(window_, caption);
 }
 
 void MainWindow::WidgetSessionView::setProgress(int value) {
@@ -59,11 +55,15 @@ void MainWindow::WidgetSessionView::resumeStatusTimers() { window_.statusTimer_.
 
 bool MainWindow::sessionRunning() const { return session_ && session_->isRunning(); }
 
+// The bar's range is the session's own: a read ends at 75 and a write at 156, and either should
+// end with the bar full.
 void MainWindow::startRead() {
+    progress_->bar().setRange(0, kSlotCount * ReadSession::kProgressPerChannel);
     startSession(std::make_unique<ReadSession>(transport_, doc_, statusRelay_, sessionView_));
 }
 
 void MainWindow::startWrite() {
+    progress_->bar().setRange(0, (kSlotCount + 1) * WriteSession::kProgressPerRecord);
     startSession(std::make_unique<WriteSession>(transport_, doc_, statusRelay_, sessionView_));
 }
 

@@ -2,6 +2,7 @@
 
 #include <QCloseEvent>
 #include <QFrame>
+#include <QLabel>
 #include <QProgressBar>
 #include <QVBoxLayout>
 
@@ -9,7 +10,7 @@
 
 ProgressWindow::ProgressWindow(QWidget* parent)
     : QWidget(parent, Qt::Window | Qt::WindowTitleHint | Qt::WindowCloseButtonHint),
-      bar_(new QProgressBar(this)) {
+      bar_(new QProgressBar(this)), caption_(new QLabel(this)) {
     setObjectName(QStringLiteral("Form5"));
     bar_->setObjectName(QStringLiteral("ProgressBar1"));
     bar_->setRange(0, SessionView::kProgressMaximum);
@@ -19,6 +20,8 @@ ProgressWindow::ProgressWindow(QWidget* parent)
     picture->setObjectName(QStringLiteral("Picture1"));
     picture->setFrameShape(QFrame::StyledPanel);
     picture->setMinimumHeight(40);
+    caption_->setAlignment(Qt::AlignCenter);
+    (new QVBoxLayout(picture))->addWidget(caption_);
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(picture);
     layout->addWidget(bar_);
@@ -28,4 +31,14 @@ ProgressWindow::ProgressWindow(QWidget* parent)
 void ProgressWindow::closeEvent(QCloseEvent* event) {
     event->accept();
     Q_EMIT closedByUser();
+}
+
+void ProgressWindow::showOver(const QWidget& owner, const QString& caption) {
+    setWindowTitle(caption);
+    caption_->setText(caption);
+    bar_->setValue(0);
+    const QRect area = owner.frameGeometry();
+    move(area.center() - QPoint(width() / 2, height() / 2));
+    show();
+    raise();
 }

@@ -2,6 +2,7 @@
 
 #include <QWidget>
 
+class QLabel;
 class QProgressBar;
 
 // The progress window of a read or write (Form5): a picture area and one bar. Closing it by
@@ -13,6 +14,8 @@ public:
     explicit ProgressWindow(QWidget* parent = nullptr);
 
     QProgressBar& bar() { return *bar_; }
+    // Shown over the middle of `owner`, its caption in the title and in the picture area.
+    void showOver(const QWidget& owner, const QString& caption);
 
 Q_SIGNALS:
     void closedByUser();
@@ -22,4 +25,5 @@ protected:
 
 private:
     QProgressBar* bar_;
+    QLabel* caption_;
 };
