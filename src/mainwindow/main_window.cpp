@@ -144,6 +144,7 @@ void MainWindow::buildMenus() {
     saveAction_ = addNamedAction(fileMenu_, "MenuSave");
     fileMenu_->addSeparator();
     exitAction_ = addNamedAction(fileMenu_, "FormCancel");
+    exitAction_->setCheckable(true);  // checked while the exit question is open
     connect(openAction_, &QAction::triggered, this, &MainWindow::openFile);
     connect(saveAction_, &QAction::triggered, this, &MainWindow::saveFile);
     connect(exitAction_, &QAction::triggered, this, [this] {
