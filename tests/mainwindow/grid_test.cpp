@@ -58,6 +58,24 @@ TEST(GridEntry, EnterMovesOnAndAClickOnTransmitReformats) {
     EXPECT_EQ(f.text(3, Col::TxFrequency), "446.00000");  // down onto the 5 kHz raster
 }
 
+TEST(GridKeyboard, TabEnterAndArrowsMoveBetweenCellsAndSkipTheChannelNumbers) {
+    WindowFixture f;
+    QTableView* view = f.grid();
+    view->setFocus();
+    view->setCurrentIndex(f.cell(0, Col::Power));
+    QTest::keyClick(view, Qt::Key_Tab);
+    EXPECT_EQ(view->currentIndex(), f.cell(1, Col::RxFrequency));
+    QTest::keyClick(view, Qt::Key_Return);
+    EXPECT_EQ(view->currentIndex(), f.cell(1, Col::RxCode));
+    QTest::keyClick(view, Qt::Key_Down);
+    EXPECT_EQ(view->currentIndex(), f.cell(2, Col::RxCode));
+    QTest::keyClick(view, Qt::Key_Backtab);
+    EXPECT_EQ(view->currentIndex(), f.cell(2, Col::RxFrequency));
+    QTest::keyClick(view, Qt::Key_Backtab);
+    EXPECT_EQ(view->currentIndex(), f.cell(1, Col::Power));
+    EXPECT_EQ(view->findChild<QComboBox*>(), nullptr);  // moving never opens a picker
+}
+
 TEST(GridToggles, BandwidthAndPowerFlipUnlessTheChannelsAreFixed) {
     for (const bool fixed : {false, true}) {
         WindowFixture f(startupDocument(UiLanguage::English, fixed));
