@@ -35,9 +35,11 @@ const TextPair kBootTexts[] = {
     {"操作已取消", "Cancelled"},
     {"请设置串口", "Please check COM Port"},
     {"请让对讲机进入升级模式", "Put the radio in boot mode"},
+    {"写入后读回校验", "Verify after writing"},
+    {"取消", "Cancel"},
 };
 
-static_assert(std::size(kBootTexts) == static_cast<int>(BootText::BootModeHint) + 1);
+static_assert(std::size(kBootTexts) == static_cast<int>(BootText::CancelButton) + 1);
 
 }  // namespace
 

@@ -34,6 +34,8 @@ enum class BootText {
     Cancelled,
     PortClosed,
     BootModeHint,  // shown while the link phase waits: what the user must do
+    VerifyOption,  // the window's check box
+    CancelButton,
 };
 
 QString bootText(BootText id, UiLanguage language);

@@ -6,8 +6,8 @@ namespace l10n::fixed {
 
 // The start-up screen.
 inline constexpr const char* kSplashLines[] = {
-    "对讲机写频软件", "版本：2.0.0.0", "发行日：2018.09",
-    "Radio Progrmming Software", "Ver： 2.0.0.0", "date： 2018.09",
+    "对讲机写频软件", "版本：2.0.0.0",  "发行日：2018.09", "Radio Progrmming Software",
+    "Ver： 2.0.0.0",  "date： 2018.09",
 };
 
 // Menu items that keep one caption.
@@ -39,5 +39,18 @@ inline constexpr const char* kCustomToneOk = "OK";
 
 // File dialogs: codeplug files.
 inline constexpr const char* kCodeplugFilter = "*.qzv (*.qzv)";
+
+// The boot loader window.
+inline constexpr const char* kBootWindowTitle = "在线编程（UART）";
+inline constexpr const char* kBootOperations = "操作对象";
+inline constexpr const char* kBootErase = "程序区擦除";
+inline constexpr const char* kBootWrite = "烧录";
+inline constexpr const char* kBootRead = "读取";
+inline constexpr const char* kBootStartLabel = "起始地址：";
+inline constexpr const char* kBootEndLabel = "结束地址：";
+inline constexpr const char* kBootImageLabel = "选择烧写的目标文件(*.bin)";
+inline constexpr const char* kBootOutputLabel = "设置读取的目标文件的存储路径(*.bin)";
+inline constexpr const char* kBootOpen = "open";
+inline constexpr const char* kBinaryFilter = "*.bin (*.bin)";
 
 }  // namespace l10n::fixed

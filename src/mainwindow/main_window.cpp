@@ -13,6 +13,7 @@
 #include <QStatusBar>
 #include <QVBoxLayout>
 
+#include "bootloader/ui/boot_loader_window.h"
 #include "l10n/window_texts.h"
 #include "mainwindow/channel_grid_model.h"
 #include "mainwindow/channel_grid_view.h"
@@ -32,7 +33,9 @@ QAction* addNamedAction(QMenu* menu, const char* objectName) {
     return action;
 }
 
-QString fixedText(const char* text) { return QString::fromUtf8(text); }
+QString fixedText(const char* text) {
+    return QString::fromUtf8(text);
+}
 
 }  // namespace
 
@@ -95,6 +98,18 @@ MainWindow::~MainWindow() {
     // Child widgets outlive the members; the grid and its model must go before the document.
     delete grid_;
     delete gridModel_;
+    // So does the boot loader window, which cancels its operation on the transport.
+    delete bootLoaderWindow_;
+}
+
+void MainWindow::openBootLoader() {
+    // One window, modeless; it borrows the link while an operation runs.
+    if (!bootLoaderWindow_) {
+        bootLoaderWindow_ = new BootLoaderWindow(transport_, prompts_, doc_.language, this);
+    }
+    bootLoaderWindow_->show();
+    bootLoaderWindow_->raise();
+    bootLoaderWindow_->activateWindow();
 }
 
 void MainWindow::startUp(const std::optional<int>& portToSelect) {
@@ -102,8 +117,7 @@ void MainWindow::startUp(const std::optional<int>& portToSelect) {
     // A machine without serial ports is no fault; a port found and then refused is.
     if (!portControl_.comboItems().isEmpty() && !port_.isOpen()) {
         prompts_.showMessage(
-            warningBox(l10n::message(l10n::MessageId::MsgPortFault, doc_.language),
-                       doc_.language));
+            warningBox(l10n::message(l10n::MessageId::MsgPortFault, doc_.language), doc_.language));
     }
     if (portToSelect) portControl_.com_sel(*portToSelect);
     if (!portToSelect || !port_.isOpen()) {
@@ -157,8 +171,8 @@ void MainWindow::buildMenus() {
     portMenu_ = setupMenu_->addMenu(QString());
     portMenu_->setObjectName(QStringLiteral("com"));
     for (int number = 1; number <= PortControl::kScannedPorts; ++number) {
-        QAction* item = portMenu_->addAction(fixedText(l10n::fixed::kComItemPrefix) +
-                                             QString::number(number));
+        QAction* item =
+            portMenu_->addAction(fixedText(l10n::fixed::kComItemPrefix) + QString::number(number));
         item->setObjectName(QStringLiteral("com%1").arg(number));
         item->setCheckable(true);
         connect(item, &QAction::triggered, this, [this, number] { portMenuChosen(number); });
@@ -199,11 +213,10 @@ void MainWindow::buildMenus() {
     audioTestAction_ = addNamedAction(programMenu_, "ypcs");
     programMenu_->addSeparator();
     testModeAction_ = addNamedAction(programMenu_, "csms");
-    for (const auto& [name, caption] :
-         {std::pair{"RFReg_Test", l10n::fixed::kRegisterTestItem},
-          {"yjx", l10n::fixed::kHardwareItem},
-          {"mp3", l10n::fixed::kMp3Item},
-          {"crs", l10n::fixed::kCrystalItem}}) {
+    for (const auto& [name, caption] : {std::pair{"RFReg_Test", l10n::fixed::kRegisterTestItem},
+                                        {"yjx", l10n::fixed::kHardwareItem},
+                                        {"mp3", l10n::fixed::kMp3Item},
+                                        {"crs", l10n::fixed::kCrystalItem}}) {
         programMenu_->addSeparator();
         QAction* item = addNamedAction(programMenu_, name);
         item->setText(fixedText(caption));
@@ -214,7 +227,7 @@ void MainWindow::buildMenus() {
     programMenu_->addSeparator();
     QAction* bootLoader = addNamedAction(programMenu_, "prg");
     bootLoader->setText(fixedText(l10n::fixed::kBootLoaderItem));
-    bootLoader->setEnabled(false);
+    connect(bootLoader, &QAction::triggered, this, &MainWindow::openBootLoader);
     for (QAction* item : {engineeringAction_, audioTestAction_, testModeAction_, identityAction_}) {
         item->setEnabled(false);
     }

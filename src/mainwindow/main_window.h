@@ -22,6 +22,7 @@ class QGroupBox;
 class QLabel;
 class QMenu;
 class QPushButton;
+class BootLoaderWindow;
 class ChannelGridModel;
 class ChannelGridView;
 class PortPickerDialog;
@@ -114,6 +115,7 @@ private:
 
     // Sessions and closing (main_window_session.cpp).
     void startRead();
+    void openBootLoader();
     void startWrite();
     void startSession(std::unique_ptr<RadioSession> session);
     void sessionFinished();
@@ -138,22 +140,23 @@ private:
     ProgressWindow* progress_ = nullptr;
     QPointer<SplashScreen> splash_;
     QPointer<PortPickerDialog> portPicker_;
+    QPointer<BootLoaderWindow> bootLoaderWindow_;
 
     // Widgets that change caption with the language, by role.
     std::array<QComboBox*, kSettingCount> settingBoxes_{};
     std::array<QLabel*, kSettingCount> settingLabels_{};
-    QComboBox* portList_ = nullptr;          // Combo18
-    QPushButton* scanButton_ = nullptr;      // Command3
-    QComboBox* channelCountBox_ = nullptr;   // Combo12
-    QComboBox* stepBox_ = nullptr;           // Combo13
+    QComboBox* portList_ = nullptr;         // Combo18
+    QPushButton* scanButton_ = nullptr;     // Command3
+    QComboBox* channelCountBox_ = nullptr;  // Combo12
+    QComboBox* stepBox_ = nullptr;          // Combo13
     QLabel* channelCountLabel_ = nullptr;
     QLabel* stepLabel_ = nullptr;
-    QPushButton* rxButton_ = nullptr;        // Command9
-    QPushButton* txButton_ = nullptr;        // Command10
-    QPushButton* writeButton_ = nullptr;     // Command1
-    QPushButton* readButton_ = nullptr;      // Command2
-    QPushButton* openButton_ = nullptr;      // Command5
-    QPushButton* saveButton_ = nullptr;      // Command6
+    QPushButton* rxButton_ = nullptr;     // Command9
+    QPushButton* txButton_ = nullptr;     // Command10
+    QPushButton* writeButton_ = nullptr;  // Command1
+    QPushButton* readButton_ = nullptr;   // Command2
+    QPushButton* openButton_ = nullptr;   // Command5
+    QPushButton* saveButton_ = nullptr;   // Command6
     QGroupBox* gridFrame_ = nullptr;
     QGroupBox* editFrame_ = nullptr;
     QLabel* statusPanel_ = nullptr;
