@@ -8,6 +8,8 @@
 #include <QRandomGenerator>
 #include <QTemporaryDir>
 
+#include "radiosim_process.h"
+
 namespace {
 
 struct FirmwareRun {
@@ -15,29 +17,11 @@ struct FirmwareRun {
     QStringList err;
 };
 
-class FirmwareEndToEnd : public ::testing::Test {
+class FirmwareEndToEnd : public RadiosimTest {
 protected:
-    static void SetUpTestSuite() {
-        static int argc = 1;
-        static char name[] = "firmware_e2e_test";
-        static char* argv[] = {name, nullptr};
-        if (!QCoreApplication::instance()) new QCoreApplication(argc, argv);
-    }
-
-    void TearDown() override {
-        if (sim_.state() != QProcess::NotRunning) {
-            sim_.terminate();
-            sim_.waitForFinished(5000);
-        }
-    }
-
     QString startRadio(const QStringList& options = {}) {
-        sim_.start(QStringLiteral(RADIOSIM_PATH),
-                   QStringList{"--erase-ms", "50", "--latency", "1"} + options);
-        EXPECT_TRUE(sim_.waitForStarted(5000));
-        while (!sim_.canReadLine() && sim_.waitForReadyRead(5000)) {
-        }
-        return QString::fromLocal8Bit(sim_.readLine()).trimmed();
+        return RadiosimTest::startRadio(QStringList{"--erase-ms", "50", "--latency", "1"} +
+                                        options);
     }
 
     FirmwareRun firmware(const QStringList& arguments) {
@@ -62,7 +46,6 @@ protected:
     }
 
     QTemporaryDir dir_;
-    QProcess sim_;
 };
 
 TEST_F(FirmwareEndToEnd, AWrittenImageReadsBackTheSame) {
