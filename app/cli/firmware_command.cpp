@@ -18,6 +18,7 @@ namespace {
 
 struct FirmwareOptions {
     std::string port;
+    std::string trace;
     std::string action;
     std::string file;
     std::string start = "1000";
@@ -86,6 +87,7 @@ int runFirmware(const GlobalOptions& global, const FirmwareOptions& options) {
     }
 
     RadioLine line(global, *portArgument, language);
+    if (!line.traceTo(options.trace)) return kExitBadInput;
     BootSession session(*line.transport, language);
     ConsoleSessionView progress(stderr);
     LinkCountdown countdown(language);
@@ -132,6 +134,7 @@ void addFirmwareCommand(CLI::App& app, const GlobalOptions& global, CommandRunne
         "firmware", "erase, write or read the radio's program memory through its boot loader");
     auto options = std::make_shared<FirmwareOptions>();
     firmware->add_option("--port", options->port, "COMn, a device path, or sim")->required();
+    addTraceOption(firmware, options->trace);
     firmware->add_option("ACTION", options->action, "erase, write IMAGE.bin or read OUT.bin")
         ->required()
         ->check(CLI::IsMember({"erase", "write", "read"}));

@@ -26,11 +26,37 @@ RadioLine::RadioLine(const GlobalOptions& global, const PortArgument& portArgume
     QObject::connect(transport.get(), &LinkTransport::portLost, [this] { control->portLost(); });
 }
 
-RadioLine::~RadioLine() = default;
+RadioLine::~RadioLine() {
+    transport->setTrace(nullptr);
+}
+
+bool RadioLine::traceTo(const std::string& path) {
+    if (path.empty()) return true;
+    traceFile_ = std::make_unique<QFile>(QString::fromStdString(path));
+    if (!traceFile_->open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Text)) {
+        std::fprintf(stderr, "radioprog-cli: cannot write the trace %s: %s\n", path.c_str(),
+                     qPrintable(traceFile_->errorString()));
+        return false;
+    }
+    trace_ = std::make_unique<LinkTrace>([file = traceFile_.get()](const QString& line) {
+        // Flushed line by line: the trace of a session that crashes is the one that matters.
+        file->write(line.toUtf8() + '\n');
+        file->flush();
+    });
+    transport->setTrace(trace_.get());
+    return true;
+}
+
+void addTraceOption(CLI::App* command, std::string& path) {
+    command->add_option("--trace", path,
+                        "log every frame to and from the radio, with times, into this file");
+}
 
 SessionOutcome runSessionOnPort(const GlobalOptions& global, const PortArgument& portArgument,
-                                UiLanguage language, const SessionFactory& makeSession) {
+                                UiLanguage language, const std::string& tracePath,
+                                const SessionFactory& makeSession) {
     RadioLine line(global, portArgument, language);
+    if (!line.traceTo(tracePath)) return SessionOutcome::Refused;
     ConsoleSessionView view(stderr);
     const std::unique_ptr<RadioSession> session = makeSession(*line.transport, line.prompts, view);
     const SessionOutcome outcome = runToEnd(*session, [&] { return session->start(); });

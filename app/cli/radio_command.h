@@ -1,11 +1,13 @@
 #pragma once
 
+#include <QFile>
 #include <functional>
 #include <memory>
 #include <optional>
 #include <string>
 
 #include "cli/commands.h"
+#include "link/link_trace.h"
 #include "link/link_transport.h"
 #include "link/port_catalogue.h"
 #include "link/port_control.h"
@@ -27,15 +29,29 @@ public:
     RadioLine(const GlobalOptions& global, const PortArgument& portArgument, UiLanguage language);
     ~RadioLine();
 
+    // Traces the serial traffic into `path` (nothing for an empty path); false, after saying
+    // why on stderr, when the file cannot be written.
+    bool traceTo(const std::string& path);
+
     SteadyClock clock;
     StreamPrompts prompts{stderr};
     std::unique_ptr<SerialPort> port;
     std::unique_ptr<PortControl> control;
     std::unique_ptr<LinkTransport> transport;
+
+private:
+    std::unique_ptr<QFile> traceFile_;
+    std::unique_ptr<LinkTrace> trace_;
 };
 
 using SessionFactory =
     std::function<std::unique_ptr<RadioSession>(LinkTransport&, Prompts&, SessionView&)>;
 
+// Runs one session on the port; the serial traffic goes to `tracePath` when one is given.
+// Refused when the trace cannot be written.
 SessionOutcome runSessionOnPort(const GlobalOptions& global, const PortArgument& portArgument,
-                                UiLanguage language, const SessionFactory& makeSession);
+                                UiLanguage language, const std::string& tracePath,
+                                const SessionFactory& makeSession);
+
+// The --trace option of the commands that talk to a radio.
+void addTraceOption(CLI::App* command, std::string& path);

@@ -12,6 +12,7 @@ namespace {
 
 struct ReadOptions {
     std::string port;
+    std::string trace;
     std::string output;
 };
 
@@ -20,7 +21,7 @@ int readRadio(const GlobalOptions& global, const ReadOptions& options) {
     if (!port) return kExitBadInput;
     Codeplug doc = global.startupCodeplug();
     const SessionOutcome outcome =
-        runSessionOnPort(global, *port, doc.language,
+        runSessionOnPort(global, *port, doc.language, options.trace,
                          [&doc](LinkTransport& link, Prompts& prompts, SessionView& view) {
                              return std::make_unique<ReadSession>(link, doc, prompts, view);
                          });
@@ -45,6 +46,7 @@ void addReadCommand(CLI::App& app, const GlobalOptions& global, CommandRunner& r
         app.add_subcommand("read", "read the channel plan and settings from the radio");
     auto options = std::make_shared<ReadOptions>();
     read->add_option("--port", options->port, "COMn, a device path, or sim")->required();
+    addTraceOption(read, options->trace);
     read->add_option("-o,--output", options->output,
                      "save the plan read as a codeplug file (.qzv)");
     read->callback([&global, &run, options] {

@@ -10,6 +10,7 @@ namespace {
 
 struct WriteOptions {
     std::string port;
+    std::string trace;
     std::string file;
 };
 
@@ -19,7 +20,7 @@ int writeRadio(const GlobalOptions& global, const WriteOptions& options) {
     Codeplug doc = global.startupCodeplug();
     if (!loadCodeplugArgument(doc, options.file)) return kExitBadInput;
     const SessionOutcome outcome =
-        runSessionOnPort(global, *port, doc.language,
+        runSessionOnPort(global, *port, doc.language, options.trace,
                          [&doc](LinkTransport& link, Prompts& prompts, SessionView& view) {
                              return std::make_unique<WriteSession>(link, doc, prompts, view);
                          });
@@ -33,6 +34,7 @@ void addWriteCommand(CLI::App& app, const GlobalOptions& global, CommandRunner& 
         "write", "check a codeplug file's frequencies, then write it into the radio");
     auto options = std::make_shared<WriteOptions>();
     write->add_option("--port", options->port, "COMn, a device path, or sim")->required();
+    addTraceOption(write, options->trace);
     write->add_option("FILE", options->file, "codeplug file (.qzv) of any layout")->required();
     write->callback([&global, &run, options] {
         run = [&global, options] { return writeRadio(global, *options); };

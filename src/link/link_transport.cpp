@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "link/link_trace.h"
 #include "platform/serial_port.h"
 
 LinkTransport::LinkTransport(SerialPort& port, Clock& clock, QObject* parent)
@@ -87,6 +88,10 @@ void LinkTransport::transmit() {
     port_.discardOutput();
     // One write per byte, as the radio's firmware has always been fed.
     for (char byte : frame_) port_.write(QByteArray(1, byte));
+    if (trace_) {
+        flushTracedJunk();
+        trace_->sent(clock_.nowMs() - traceOriginMs_, frame_);
+    }
     phase_ = Phase::Draining;
     if (port_.bytesToWrite() == 0) startSettle();
 }
@@ -147,6 +152,7 @@ bool LinkTransport::parseInput(QByteArray* reply) {
         for (char byte : bytes) {
             if (!receivingUnderWay()) frameStartMs_ = now;
             const FrameParser::Outcome outcome = parser_.feed(static_cast<quint8>(byte));
+            if (trace_) traceByte(byte, outcome);
             lineUnderWay_ = parser_.lineMode() && outcome == FrameParser::Outcome::Pending;
             switch (outcome) {
                 case FrameParser::Outcome::FrameComplete: {
@@ -202,6 +208,11 @@ void LinkTransport::onReplyTimer() {
     }
     // A frame that stopped half way is given up with the time-out.
     if (!parser_.lineMode()) parser_.reset();
+    if (trace_) {
+        tracedJunk_ += tracedFrame_;
+        tracedFrame_.clear();
+        flushTracedJunk();
+    }
     lineUnderWay_ = false;
     phase_ = Phase::Idle;
     ++timeouts_;
@@ -214,6 +225,46 @@ void LinkTransport::onReplyTimer() {
         return;
     }
     owner_->exchangeFailed({LinkFailure::GaveUp, {}});
+}
+
+void LinkTransport::setTrace(LinkTrace* trace) {
+    trace_ = trace;
+    traceOriginMs_ = clock_.nowMs();
+    tracedFrame_.clear();
+    tracedJunk_.clear();
+}
+
+void LinkTransport::traceByte(char byte, FrameParser::Outcome outcome) {
+    const qint64 ms = clock_.nowMs() - traceOriginMs_;
+    switch (outcome) {
+        case FrameParser::Outcome::Dropped:
+            tracedJunk_ += tracedFrame_;
+            tracedJunk_ += byte;
+            tracedFrame_.clear();
+            return;
+        case FrameParser::Outcome::Pending:
+            // A frame start that comes to nothing joins the run of junk before it.
+            tracedFrame_ += byte;
+            return;
+        case FrameParser::Outcome::FrameComplete:
+        case FrameParser::Outcome::ChecksumFailed:
+            flushTracedJunk();
+            tracedFrame_ += byte;
+            trace_->received(ms, tracedFrame_, outcome == FrameParser::Outcome::FrameComplete);
+            tracedFrame_.clear();
+            return;
+        case FrameParser::Outcome::LineComplete:
+            tracedFrame_ += byte;
+            trace_->textLine(ms, tracedFrame_);
+            tracedFrame_.clear();
+            return;
+    }
+}
+
+void LinkTransport::flushTracedJunk() {
+    if (tracedJunk_.isEmpty()) return;
+    trace_->junk(clock_.nowMs() - traceOriginMs_, tracedJunk_);
+    tracedJunk_.clear();
 }
 
 void LinkTransport::onPortFailed(const QString& reason) {

@@ -9,6 +9,7 @@
 #include "link/link_client.h"
 #include "platform/clock.h"
 
+class LinkTrace;
 class SerialPort;
 
 // The link to the radio: puts requests on the line (send_uart), parses what comes back, and
@@ -82,6 +83,10 @@ public:
     }
     bool monitorActive() const { return static_cast<bool>(monitor_); }
 
+    // Every frame that goes out and every byte that comes in, from now on, to `trace` (null:
+    // none). The trace's times count from this call.
+    void setTrace(LinkTrace* trace);
+
 Q_SIGNALS:
     // The port failed and has been closed; the owner of a running exchange has already heard
     // of it.
@@ -101,6 +106,8 @@ private:
     void armAttempt();
     void armUntil(qint64 deadlineMs);
     bool receivingUnderWay() const;
+    void traceByte(char byte, FrameParser::Outcome outcome);
+    void flushTracedJunk();
     void onPortFailed(const QString& reason);
 
     SerialPort& port_;
@@ -126,4 +133,9 @@ private:
     int timeouts_ = 0;  // of this request; the attempt on the line is timeouts_ + 1
     qint64 settleStart_ = 0;
     int requestSerial_ = 0;  // changes with every request and abort
+
+    LinkTrace* trace_ = nullptr;
+    qint64 traceOriginMs_ = 0;
+    QByteArray tracedFrame_;  // the frame or text line coming in
+    QByteArray tracedJunk_;   // bytes that were no frame, not yet traced
 };

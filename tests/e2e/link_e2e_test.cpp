@@ -131,6 +131,23 @@ TEST_F(LinkEndToEnd, AHangUpEndsTheWriteWithThePortClosed) {
     EXPECT_EQ(said.last(), "status: COM Closed");
 }
 
+TEST_F(LinkEndToEnd, AWriteLeavesATraceOfEveryFrame) {
+    ASSERT_FALSE(WriteSaveFile(samplePlan(), path("plan.qzv")).has_value());
+    const QString device = startRadio({"--garbage", "3"});
+    const CliRun write =
+        cli({"write", "--port", device, "--trace", path("t.log"), path("plan.qzv")});
+    EXPECT_EQ(write.exitCode, 0) << write.err.toStdString();
+    QFile file(path("t.log"));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const QStringList trace = lines(QString::fromUtf8(file.readAll()));
+    EXPECT_EQ(trace.filter(QRegularExpression("^\\d+\\.\\d{3} > ")).size(), 27);
+    EXPECT_EQ(trace.filter(QRegularExpression(" < .*reply 0 bytes, checksum ok$")).size(), 26);
+    EXPECT_EQ(trace.filter("not a frame").size(), 1) << "the garbage before the third reply";
+    ASSERT_FALSE(trace.isEmpty());
+    EXPECT_TRUE(trace.first().endsWith("  X settings")) << trace.first().toStdString();
+    EXPECT_TRUE(trace.last().endsWith("45 00 45  E end")) << trace.last().toStdString();
+}
+
 TEST_F(LinkEndToEnd, ALateReplyToTheOpeningShiftsNoChannel) {
     const QString device = startRadio({"--latency", "1100"});
     const CliRun read = cli({"read", "--port", device});

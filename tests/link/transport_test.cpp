@@ -2,6 +2,7 @@
 
 #include <vector>
 
+#include "link/link_trace.h"
 #include "link/link_transport.h"
 #include "link/session_view.h"
 #include "support/fake_port.h"
@@ -250,6 +251,30 @@ TEST_F(TransportTest, MonitorModeTakesEveryFrame) {
     port.inject(hexBytes("4101 07 49 4101 08 4a"));
     EXPECT_EQ(monitored, (std::vector<QByteArray>{hexBytes("07"), hexBytes("08")}));
     EXPECT_TRUE(client.replies.empty());
+}
+
+}  // namespace
+
+namespace {
+
+TEST_F(TransportTest, TheTraceHasALinePerFrameAndPerRunOfOtherBytes) {
+    QStringList lines;
+    LinkTrace trace([&](const QString& line) { lines << line; });
+    clock.advance(1000);
+    transport.setTrace(&trace);
+    transport.request(hexBytes("520303000560"), 5000, 1, {1});
+    clock.advance(20 + 30);
+    port.inject(hexBytes("00ff 4101 07 00 4101 07 49"));
+    transport.request(hexBytes("520304000561"), 5000, 1, {1});
+    clock.advance(20 + 10);
+    port.inject(hexBytes("4105 01"));
+    clock.advance(5000);
+    EXPECT_EQ(lines,
+              QStringList({"0.000 > 52 03 03 00 05 60  R ch 4", "0.050 < 00 ff  not a frame",
+                           "0.050 < 41 01 07 00  reply 1 bytes, checksum bad",
+                           "0.050 < 41 01 07 49  reply 1 bytes, checksum ok",
+                           "0.050 > 52 03 04 00 05 61  R ch 5", "5.070 < 41 05 01  not a frame"}));
+    transport.setTrace(nullptr);
 }
 
 }  // namespace
