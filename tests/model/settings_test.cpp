@@ -50,14 +50,4 @@ TEST(Settings, UnknownTextBecomesTheOptionCount) {
     EXPECT_EQ(settings[SettingKey::agingtest], 1);
 }
 
-TEST(Settings, SelectorNamesAndWriteOrder) {
-    EXPECT_STREQ(selectorOf(SettingKey::freqsel).checkProcedure, "chk_range");
-    EXPECT_STREQ(selectorOf(SettingKey::autolock).objectName, "Combo14");
-    EXPECT_STREQ(selectorOf(SettingKey::agingtest).checkProcedure, "chk_Combo17");
-    EXPECT_EQ(kSettingsCheckedBeforeWrite.front(), SettingKey::normalmode);
-    EXPECT_EQ(kSettingsCheckedBeforeWrite.back(), SettingKey::agingtest);
-    EXPECT_EQ(channelCountOptions().size(), 25);
-    EXPECT_EQ(frequencyStepOptions().last(), "900");
-}
-
 }  // namespace
