@@ -22,12 +22,20 @@ PortCatalogue GlobalOptions::portCatalogue() const {
     return PortCatalogue::fromSystem(readPortPins(configPath()));
 }
 
+const char* const kExitStatusHelp =
+    "Exit status, for every command:\n"
+    "  0  done\n"
+    "  1  the radio did not answer, or a check refused the plan\n"
+    "  2  bad usage, or an input file that cannot be read\n"
+    "  3  an output file could not be written (an old file of that name is left as it was)";
+
 int main(int argc, char** argv) {
     QCoreApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("radioprog"));
 
     CLI::App app{"radioprog-cli: programs the hand-held radio's channel plan from a terminal"};
     app.require_subcommand(1);
+    app.footer(kExitStatusHelp);
     GlobalOptions global;
     app.add_option("--config", global.configDir, "folder that holds config.ini");
     app.add_option("--lang", global.lang, "language of the output: zh or en")

@@ -69,11 +69,6 @@ QStringList buildCodeTable(int normalmode, UiLanguage language) {
     return normalmode == 1 ? ProfessionalCodeTable(language) : NormalCodeTable();
 }
 
-int codeNumber(const QStringList& table, const QString& text) {
-    const int position = table.indexOf(text);
-    return position < 0 ? static_cast<int>(table.size()) : position;
-}
-
 QString codeText(const QStringList& table, int number) { return table.value(number); }
 
 bool isCustomToneText(const QString& text) {

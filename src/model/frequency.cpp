@@ -37,6 +37,12 @@ std::optional<double> strictNumber(const QString& text) {
     return value;
 }
 
+int boundedInt(double value, int low, int high) {
+    if (!(value >= low)) return low;  // NaN too
+    if (value >= high) return high;
+    return static_cast<int>(value);
+}
+
 QString formatFrequencyValue(double megahertz) {
     // "000.00000": at least three integer digits, exactly five decimals.
     QString digits = QString::asprintf("%09.5f", std::fabs(megahertz));

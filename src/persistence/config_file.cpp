@@ -34,9 +34,9 @@ const PresetGroup kPresetGroups[] = {
 };
 
 // The per-user folder may not exist yet on a first start.
-bool saveConfig(const QString& configPath, const PrivateProfile& profile) {
+Result<void> saveConfig(const QString& configPath, const PrivateProfile& profile) {
     QDir().mkpath(QFileInfo(configPath).absolutePath());
-    return !saveWholeFile(configPath, encodeFileText(joinLines(profile.lines())));
+    return saveWholeFile(configPath, encodeFileText(joinLines(profile.lines())));
 }
 
 QString presetKey(const char* stem, int slot) {
@@ -99,10 +99,9 @@ namespace {
 // The file's profile; nothing when it exists but cannot be read (then it must not be rewritten).
 std::optional<PrivateProfile> readProfile(const QString& configPath) {
     if (!QFileInfo::exists(configPath)) return PrivateProfile();
-    auto content = readWholeFile(configPath);
-    if (auto* bytes = std::get_if<QByteArray>(&content))
-        return PrivateProfile(splitLines(decodeFileText(*bytes)));
-    return std::nullopt;
+    const Result<QByteArray> content = readWholeFile(configPath);
+    if (!content) return std::nullopt;
+    return PrivateProfile(splitLines(decodeFileText(*content)));
 }
 
 }  // namespace
@@ -139,13 +138,16 @@ QMap<int, QString> readPortPins(const QString& configPath) {
     return pins;
 }
 
-bool WriteConfigFile(const QString& configPath, const QString& key, UiLanguage language) {
-    if (key.compare(kLang, Qt::CaseInsensitive) != 0) return false;
+Result<void> WriteConfigFile(const QString& configPath, const QString& key, UiLanguage language) {
+    if (key.compare(kLang, Qt::CaseInsensitive) != 0) {
+        return Error::inFile(ErrorKind::CannotWrite, configPath);
+    }
     PrivateProfile profile;
     if (QFileInfo::exists(configPath)) {
-        auto content = readWholeFile(configPath);
-        if (!std::holds_alternative<QByteArray>(content)) return false;
-        profile = PrivateProfile(splitLines(decodeFileText(std::get<QByteArray>(content))));
+        // A file that cannot be read is not replaced by one holding the language alone.
+        const Result<QByteArray> content = readWholeFile(configPath);
+        if (!content) return content.error();
+        profile = PrivateProfile(splitLines(decodeFileText(*content)));
     }
     profile.write(kConfigSection, kLang, configTextOf(language));
     return saveConfig(configPath, profile);

@@ -6,6 +6,7 @@
 
 #include "l10n/language.h"
 #include "model/codeplug.h"
+#include "model/result.h"
 #include "model/startup_config.h"
 #include "persistence/private_profile.h"
 
@@ -36,8 +37,8 @@ StartupConfig readConfigProfile(PrivateProfile& profile);
 QMap<int, QString> readPortPins(const QString& configPath);
 
 // Records the language after the user switched it. Only the key "Lang" is written; any other
-// key is ignored. Returns whether the file was saved.
-bool WriteConfigFile(const QString& configPath, const QString& key, UiLanguage language);
+// key is ignored and gives a CannotWrite error, as a file that cannot be read or saved does.
+Result<void> WriteConfigFile(const QString& configPath, const QString& key, UiLanguage language);
 
 // Where config.ini lives: `overrideDir` when given (--config), else the program's folder when it
 // is writable, else the per-user configuration folder.

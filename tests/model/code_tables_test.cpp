@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "model/code_tables.h"
+#include "model/settings.h"
 
 namespace {
 
@@ -36,8 +37,8 @@ TEST(CodeTables, ModeChoosesTheTable) {
 
 TEST(CodeTables, NumberAndTextConvert) {
     const QStringList table = NormalCodeTable();
-    EXPECT_EQ(codeNumber(table, "D023"), 39);
-    EXPECT_EQ(codeNumber(table, "I023"), 100);  // not in the list: the list size
+    EXPECT_EQ(OptionIndexLookup(table, "D023"), 39);
+    EXPECT_EQ(OptionIndexLookup(table, "I023"), 100);  // not in the list: the list size
     EXPECT_EQ(codeText(table, 1), "67.0");
     EXPECT_EQ(codeText(table, 100), "");
     EXPECT_TRUE(isCustomToneText("Custom"));
