@@ -85,7 +85,7 @@ TEST_F(CliTest, ConvertWritesTheCurrentLayout) {
     EXPECT_EQ(unreadable.status, 2);
     const CliRun unwritable =
         cli(config_ + QStringList{"convert", samplePath("v18.qzv"), dir_.filePath("no/x.qzv")});
-    EXPECT_EQ(unwritable.status, 1);
+    EXPECT_EQ(unwritable.status, 3);
     EXPECT_FALSE(unwritable.err.isEmpty());
 }
 

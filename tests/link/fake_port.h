@@ -88,8 +88,3 @@ private:
 inline QByteArray hexBytes(const char* hex) {
     return QByteArray::fromHex(hex);
 }
-
-// Readable QStrings in test failures.
-inline void PrintTo(const QString& text, std::ostream* os) {
-    *os << '"' << text.toStdString() << '"';
-}
