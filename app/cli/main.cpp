@@ -1,7 +1,9 @@
 #include <QCoreApplication>
+#include <QTextStream>
 #include <cstdio>
 
 #include "cli/commands.h"
+#include "l10n/error_texts.h"
 #include "persistence/config_file.h"
 
 std::optional<UiLanguage> GlobalOptions::language() const {
@@ -15,7 +17,14 @@ QString GlobalOptions::configPath() const {
 }
 
 Codeplug GlobalOptions::startupCodeplug() const {
-    return loadStartupCodeplug(configPath(), ConfigCompletion::InMemoryOnly, language());
+    std::optional<Error> unreadable;
+    Codeplug doc =
+        loadStartupCodeplug(configPath(), ConfigCompletion::InMemoryOnly, language(), &unreadable);
+    if (unreadable) {
+        QTextStream(stderr) << "radioprog-cli: " << l10n::configWarning(*unreadable, doc.language)
+                            << '\n';
+    }
+    return doc;
 }
 
 PortCatalogue GlobalOptions::portCatalogue() const {

@@ -62,4 +62,8 @@ QString describeError(const Error& error, UiLanguage language) {
     return text;
 }
 
+QString configWarning(const Error& error, UiLanguage language) {
+    return programText(ProgramText::ConfigUnreadable, language).arg(describeError(error, language));
+}
+
 }  // namespace l10n

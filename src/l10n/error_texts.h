@@ -11,4 +11,8 @@ namespace l10n {
 
 QString describeError(const Error& error, UiLanguage language);
 
+// The one warning about a config.ini that exists but could not be read (the defaults apply),
+// for a terminal or a status bar.
+QString configWarning(const Error& error, UiLanguage language);
+
 }  // namespace l10n

@@ -21,7 +21,7 @@ const TextPair kProgramTexts[] = {
      "not a regular file (a device, FIFO or socket); left untouched"},
     {"文件太大，无法保留其中的其他内容，没有写入",
      "too large to keep its other lines; nothing was written"},
-    {"配置文件无法读取，使用默认设置", "the configuration cannot be read; the defaults apply"},
+    {"配置文件无法读取，使用默认设置：%1", "configuration not read, the defaults apply: %1"},
     {"信道自定义亚音输入错误，请重新输入", "Channel Custom Tone Input error，Please edit again"},
     {"信道自定义数字码输入错误，请重新输入", "Channel Custom DCS Input error，Please edit again"},
 };

@@ -19,7 +19,7 @@ enum class ProgramText {
     FileNoReason,     // the reason, when the system gave none
     FileNotRegular,   // a device, FIFO or socket where a file is to be written
     FileTooLargeToKeep,
-    ConfigUnreadable,       // config.ini exists but cannot be read
+    ConfigUnreadable,       // config.ini exists but cannot be read; %1 says which and why
     ChannelCustomToneError,  // after the channel prefix and number, as the message table's
     ChannelCustomDcsError,
 };

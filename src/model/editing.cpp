@@ -1,6 +1,7 @@
 #include "model/editing.h"
 
 #include <cmath>
+#include <limits>
 #include <optional>
 
 #include "model/code_tables.h"
@@ -23,7 +24,10 @@ bool placeOnRaster(QString& text, int lower) {
     const std::optional<double> value = strictNumber(text);
     if (!value) return false;  // not a number: nothing to put on a raster
 
-    const float d = static_cast<float>((*value - lower) * 1000.0);  // kHz above L
+    const double khz = (*value - lower) * 1000.0;
+    // A float cannot hold it ("1e300"): far from any band, so on no raster; left as typed.
+    if (!(std::fabs(khz) <= std::numeric_limits<float>::max())) return false;
+    const float d = static_cast<float>(khz);  // kHz above L
     const double on625 = static_cast<double>(d) / 6.25;
     const bool on6 = on625 == std::floor(on625);
     const float on5Steps = d / 5.0f;

@@ -83,12 +83,19 @@ QByteArray codeplugFileBytes(const Codeplug& doc) {
 
 Result<void> WriteSaveFile(const Codeplug& doc, const QString& path, SaveMode mode) {
     PrivateProfile profile;
-    if (mode == SaveMode::KeepOtherLines && QFileInfo::exists(path)) {
+    // Only a regular file has lines to keep; saveWholeFile refuses anything else of that name.
+    if (mode == SaveMode::KeepOtherLines && QFileInfo(path).isFile()) {
         // What cannot be read cannot be kept: refuse rather than lose the other lines.
         const Result<QByteArray> content = readWholeFile(path);
+        if (!content && content.error().kind == ErrorKind::TooLarge) {
+            return Error::inFile(ErrorKind::TooLargeToKeep, path);
+        }
         if (!content) return content.error();
         profile = PrivateProfile(splitLines(decodeFileText(*content)));
     }
     writeCodeplugKeys(doc, profile);
-    return saveWholeFile(path, encodeFileText(joinLines(profile.lines())));
+    const QByteArray bytes = encodeFileText(joinLines(profile.lines()));
+    // A file this program would refuse to open again is not written.
+    if (bytes.size() > kMaxFileSize) return Error::inFile(ErrorKind::TooLargeToKeep, path);
+    return saveWholeFile(path, bytes);
 }

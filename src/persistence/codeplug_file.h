@@ -53,5 +53,6 @@ bool holdsCodeplugSection(const PrivateProfile& profile);
 // The current-layout reader; missing keys take their defaults.
 void ReadSaveFile(Codeplug& doc, const PrivateProfile& profile);
 
-// A channel count read from a file: above 25 it becomes "25", otherwise it stays as written.
+// A channel count read from a file is held to 1..25: "30" becomes "25", "-5" and "abc" become
+// "1"; a count inside the range stays as written.
 QString channelCountFromFile(const QString& text);

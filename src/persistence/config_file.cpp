@@ -96,39 +96,41 @@ StartupConfig readConfigProfile(PrivateProfile& profile) {
 
 namespace {
 
-// The file's profile; nothing when it exists but cannot be read (then it must not be rewritten).
-std::optional<PrivateProfile> readProfile(const QString& configPath) {
+// The file's profile; the error when it exists but cannot be read (then it must not be
+// rewritten either).
+Result<PrivateProfile> readProfile(const QString& configPath) {
     if (!QFileInfo::exists(configPath)) return PrivateProfile();
     const Result<QByteArray> content = readWholeFile(configPath);
-    if (!content) return std::nullopt;
+    if (!content) return content.error();
     return PrivateProfile(splitLines(decodeFileText(*content)));
 }
 
 }  // namespace
 
 StartupConfig ReadConfigFile(const QString& configPath, ConfigCompletion completion) {
-    const std::optional<PrivateProfile> read = readProfile(configPath);
-    const bool readable = read.has_value();
-    PrivateProfile profile = read.value_or(PrivateProfile());
+    const Result<PrivateProfile> read = readProfile(configPath);
+    PrivateProfile profile = read ? *read : PrivateProfile();
     const QStringList before = profile.lines();
-    const StartupConfig config = readConfigProfile(profile);
-    if (completion == ConfigCompletion::SaveMissingKeys && readable && profile.lines() != before) {
+    StartupConfig config = readConfigProfile(profile);
+    if (!read) config.unreadable = read.error();
+    if (completion == ConfigCompletion::SaveMissingKeys && read && profile.lines() != before) {
         saveConfig(configPath, profile);
     }
     return config;
 }
 
 Codeplug loadStartupCodeplug(const QString& configPath, ConfigCompletion completion,
-                             std::optional<UiLanguage> language) {
+                             std::optional<UiLanguage> language, std::optional<Error>* unreadable) {
     StartupConfig config = ReadConfigFile(configPath, completion);
     if (language) config.language = *language;
+    if (unreadable) *unreadable = config.unreadable;
     return buildStartupCodeplug(config);
 }
 
 QMap<int, QString> readPortPins(const QString& configPath) {
     constexpr int kLastPortNumber = 64;
     QMap<int, QString> pins;
-    const std::optional<PrivateProfile> profile = readProfile(configPath);
+    const Result<PrivateProfile> profile = readProfile(configPath);
     if (!profile) return pins;
     for (int number = 0; number <= kLastPortNumber; ++number) {
         const std::optional<QString> device =

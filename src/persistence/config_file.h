@@ -20,15 +20,18 @@ enum class ConfigCompletion {
 };
 
 // Reads, completes and returns the configuration. A file that cannot be read gives the
-// defaults, and one that exists but cannot be read is never overwritten.
+// defaults, and one that exists but cannot be read is never overwritten; `unreadable` of the
+// result then says why, for the one warning the user gets.
 StartupConfig ReadConfigFile(const QString& configPath,
                              ConfigCompletion completion = ConfigCompletion::SaveMissingKeys);
 
 // The program's start-up document: the configuration read, then the document built from it;
-// `language`, when given, replaces the configured one.
+// `language`, when given, replaces the configured one. `unreadable`, when given, receives the
+// reason a config.ini that exists could not be read.
 Codeplug loadStartupCodeplug(const QString& configPath,
                              ConfigCompletion completion = ConfigCompletion::SaveMissingKeys,
-                             std::optional<UiLanguage> language = std::nullopt);
+                             std::optional<UiLanguage> language = std::nullopt,
+                             std::optional<Error>* unreadable = nullptr);
 
 // The reading steps on a file already in memory: missing keys are written into `profile`.
 StartupConfig readConfigProfile(PrivateProfile& profile);

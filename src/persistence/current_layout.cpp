@@ -88,5 +88,7 @@ void ReadSaveFile(Codeplug& doc, const PrivateProfile& profile) {
 }
 
 QString channelCountFromFile(const QString& text) {
-    return numericValue(text) > kSlotCount ? QString::number(kSlotCount) : text;
+    const double count = numericValue(text);
+    if (count >= 1 && count <= kSlotCount) return text;
+    return QString::number(boundedInt(count, 1, kSlotCount));
 }

@@ -4,24 +4,11 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
+#include "cli_run.h"
 #include "persistence/config_file.h"
 #include "test_support.h"
 
 namespace {
-
-struct CliRun {
-    int status = -1;
-    QString out;
-    QString err;
-};
-
-CliRun cli(const QStringList& arguments) {
-    QProcess process;
-    process.start(QStringLiteral(RADIOPROG_CLI), arguments);
-    process.waitForFinished(30000);
-    return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
-            QString::fromUtf8(process.readAllStandardError())};
-}
 
 class CliTest : public ::testing::Test {
 protected:

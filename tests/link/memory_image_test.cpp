@@ -34,6 +34,15 @@ TEST(SettingsImage, DefaultSettingsEncodeAsTheKnownFrame) {
     EXPECT_EQ(encode_settings(doc), bytes({0x58, 0x06, 0x00, 0x00, 0x13, 0x00, 0x16, 0x00, 0x87}));
 }
 
+TEST(SettingsImage, AChannelCountIsHeldToOneByte) {
+    for (const auto& [chtot, s2] :
+         {std::pair{"-1e300", 0}, {"-5", 0}, {"1e300", 255}, {"300", 255}}) {
+        Codeplug doc = startup();
+        doc.chtot = chtot;
+        EXPECT_EQ(static_cast<quint8>(encode_settings(doc)[6]), s2) << chtot;
+    }
+}
+
 TEST(SettingsImage, EachSettingHasItsBit) {
     const struct {
         SettingKey key;

@@ -135,6 +135,10 @@ TEST(CodeplugFile, MissingKeysTakeTheirDefaults) {
         {"[Config]\r\nchtot=30\r\n", "25", "100"},
         {"[config]\r\nCHTOT=25\r\nfreqstep=300\r\n", "25", "300"},
         {"[Config]\r\nchtot=10\r\n", "10", "100"},
+        {"[Config]\r\nchtot=-5\r\n", "1", "100"},  // would send 251 channels
+        {"[Config]\r\nchtot=-1e300\r\n", "1", "100"},
+        {"[Config]\r\nchtot=1e300\r\n", "25", "100"},
+        {"[Config]\r\nchtot=0\r\n", "1", "100"},
         {"[Rxfreq]\r\nrxfreq00=462.56250\r\n", "22", "100"},
         {"[Config]\r\nchtot=\r\nfreqstep=\r\n", "22", "100"},
     };
