@@ -61,13 +61,13 @@ inline bool sameConfig(const StartupConfig& a, const StartupConfig& b) {
 
 // The file the reader completes needs no completing again, and reads the same from its bytes.
 inline const char* checkConfigReader(const QByteArray& bytes) {
-    PrivateProfile profile(splitLines(decodeFileText(bytes)));
+    PrivateProfile profile = PrivateProfile::fromText(decodeFileText(bytes));
     const StartupConfig first = readConfigProfile(profile);
-    const QStringList completed = profile.lines();
+    const QString completed = profile.text();
 
-    PrivateProfile reread(splitLines(decodeFileText(encodeFileText(joinLines(completed)))));
+    PrivateProfile reread = PrivateProfile::fromText(decodeFileText(encodeFileText(completed)));
     const StartupConfig second = readConfigProfile(reread);
-    if (reread.lines() != completed) return "a completed file needs no completing";
+    if (reread.changed()) return "a completed file needs no completing";
     if (!sameConfig(first, second)) return "a completed file reads the same again";
     buildStartupCodeplug(first);
     return nullptr;

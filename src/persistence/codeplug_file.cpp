@@ -41,28 +41,31 @@ QString layoutName(CodeplugLayout layout) {
 }
 
 int CalFileLineCnt(const QByteArray& bytes) {
-    return static_cast<int>(splitLines(decodeFileText(bytes)).size());
+    return static_cast<int>(countLines(decodeFileText(bytes)));
 }
 
 Result<LoadedCodeplug> loadCodeplugData(Codeplug& doc, const QByteArray& bytes,
                                         const QString& path) {
-    const QStringList lines = splitLines(decodeFileText(bytes));
-    switch (lines.size()) {
+    const QString text = decodeFileText(bytes);
+    // Only the old layouts, a few hundred lines at most, are split into a list of lines.
+    const qsizetype lineCount = countLines(text);
+    const auto lines = [&text] { return splitLines(text); };
+    switch (lineCount) {
         case kLinesV05:
-            ReadSaveFile_V05(doc, lines);
+            ReadSaveFile_V05(doc, lines());
             return loaded(CodeplugLayout::V05, std::nullopt);
         case kLinesUnread:
             return refused(path, ErrorKind::UnreadLayout);
         case kLinesV13:
-            return loaded(CodeplugLayout::V13, ReadSaveFile_V13(doc, lines));
+            return loaded(CodeplugLayout::V13, ReadSaveFile_V13(doc, lines()));
         case kLinesV16:
-            return loaded(CodeplugLayout::V16, ReadSaveFile_V16(doc, lines));
+            return loaded(CodeplugLayout::V16, ReadSaveFile_V16(doc, lines()));
         case kLinesV18:
-            return loaded(CodeplugLayout::V18, ReadSaveFile_V18(doc, lines));
+            return loaded(CodeplugLayout::V18, ReadSaveFile_V18(doc, lines()));
         default:
             break;
     }
-    const PrivateProfile profile(lines);
+    const PrivateProfile profile = PrivateProfile::fromText(text);
     // Reading a file with none of the sections would blank every cell of the plan.
     if (!holdsCodeplugSection(profile)) return refused(path, ErrorKind::NotACodeplug);
     ReadSaveFile(doc, profile);
@@ -78,7 +81,7 @@ Result<LoadedCodeplug> openCodeplugFile(Codeplug& doc, const QString& path) {
 QByteArray codeplugFileBytes(const Codeplug& doc) {
     PrivateProfile profile;
     writeCodeplugKeys(doc, profile);
-    return encodeFileText(joinLines(profile.lines()));
+    return encodeFileText(profile.text());
 }
 
 Result<void> WriteSaveFile(const Codeplug& doc, const QString& path, SaveMode mode) {
@@ -91,10 +94,10 @@ Result<void> WriteSaveFile(const Codeplug& doc, const QString& path, SaveMode mo
             return Error::inFile(ErrorKind::TooLargeToKeep, path);
         }
         if (!content) return content.error();
-        profile = PrivateProfile(splitLines(decodeFileText(*content)));
+        profile = PrivateProfile::fromText(decodeFileText(*content));
     }
     writeCodeplugKeys(doc, profile);
-    const QByteArray bytes = encodeFileText(joinLines(profile.lines()));
+    const QByteArray bytes = encodeFileText(profile.text());
     // A file this program would refuse to open again is not written.
     if (bytes.size() > kMaxFileSize) return Error::inFile(ErrorKind::TooLargeToKeep, path);
     return saveWholeFile(path, bytes);

@@ -36,7 +36,7 @@ const PresetGroup kPresetGroups[] = {
 // The per-user folder may not exist yet on a first start.
 Result<void> saveConfig(const QString& configPath, const PrivateProfile& profile) {
     QDir().mkpath(QFileInfo(configPath).absolutePath());
-    return saveWholeFile(configPath, encodeFileText(joinLines(profile.lines())));
+    return saveWholeFile(configPath, encodeFileText(profile.text()));
 }
 
 QString presetKey(const char* stem, int slot) {
@@ -102,18 +102,17 @@ Result<PrivateProfile> readProfile(const QString& configPath) {
     if (!QFileInfo::exists(configPath)) return PrivateProfile();
     const Result<QByteArray> content = readWholeFile(configPath);
     if (!content) return content.error();
-    return PrivateProfile(splitLines(decodeFileText(*content)));
+    return PrivateProfile::fromText(decodeFileText(*content));
 }
 
 }  // namespace
 
 StartupConfig ReadConfigFile(const QString& configPath, ConfigCompletion completion) {
-    const Result<PrivateProfile> read = readProfile(configPath);
-    PrivateProfile profile = read ? *read : PrivateProfile();
-    const QStringList before = profile.lines();
+    Result<PrivateProfile> read = readProfile(configPath);
+    PrivateProfile profile = read ? std::move(read.value()) : PrivateProfile();
     StartupConfig config = readConfigProfile(profile);
     if (!read) config.unreadable = read.error();
-    if (completion == ConfigCompletion::SaveMissingKeys && read && profile.lines() != before) {
+    if (completion == ConfigCompletion::SaveMissingKeys && read && profile.changed()) {
         saveConfig(configPath, profile);
     }
     return config;
@@ -149,7 +148,7 @@ Result<void> WriteConfigFile(const QString& configPath, const QString& key, UiLa
         // A file that cannot be read is not replaced by one holding the language alone.
         const Result<QByteArray> content = readWholeFile(configPath);
         if (!content) return content.error();
-        profile = PrivateProfile(splitLines(decodeFileText(*content)));
+        profile = PrivateProfile::fromText(decodeFileText(*content));
     }
     profile.write(kConfigSection, kLang, configTextOf(language));
     return saveConfig(configPath, profile);
