@@ -32,8 +32,9 @@ const QString kFreqstep = QStringLiteral("freqstep");
 // The Config keys follow the settings' own order, with chtot and freqstep written before autolock.
 constexpr SettingKey kFirstSettingAfterCounts = SettingKey::autolock;
 
-QString slotKey(const char* stem, int slot) {
-    return QLatin1String(stem) + QStringLiteral("%1").arg(slot, 2, 10, QLatin1Char('0'));
+QString slotKey(const char* stem, int slot) {  // two digits: rxfreq00 .. rxfreq24
+    return QLatin1String(stem) + QLatin1Char(static_cast<char>('0' + slot / 10)) +
+           QLatin1Char(static_cast<char>('0' + slot % 10));
 }
 
 }  // namespace

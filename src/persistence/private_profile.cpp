@@ -92,8 +92,12 @@ QStringView PrivateProfile::lineAt(qint64 ref) const {
 
 namespace {
 
-QString keyOf(const QString& foldedSection, QStringView key) {
-    return foldedSection + QLatin1Char('\n') + key.toString().toCaseFolded();
+// One string per key, folded once: readers look keys up by the hundred.
+QString keyOf(QStringView section, QStringView key) {
+    QString composite;
+    composite.reserve(section.size() + 1 + key.size());
+    composite.append(section).append(QLatin1Char('\n')).append(key);
+    return std::move(composite).toCaseFolded();
 }
 
 }  // namespace
@@ -124,7 +128,7 @@ void PrivateProfile::index() {
 }
 
 std::optional<QString> PrivateProfile::read(const QString& section, const QString& key) const {
-    const auto found = keys_.constFind(keyOf(folded(section), key));
+    const auto found = keys_.constFind(keyOf(section, key));
     if (found == keys_.cend()) return std::nullopt;
     QString value = entryOf(lineAt(*found))->value.toString();
     value.truncate(kMaxValueLength);
@@ -145,8 +149,7 @@ qint16 PrivateProfile::readInt(const QString& section, const QString& key, qint1
 
 void PrivateProfile::write(const QString& section, const QString& key, const QString& value) {
     const QString line = key + QLatin1Char('=') + oneLine(value);
-    const QString sectionName = folded(section);
-    const QString entryKey = keyOf(sectionName, key);
+    const QString entryKey = keyOf(section, key);
     const auto existing = keys_.constFind(entryKey);
     if (existing != keys_.cend()) {
         const qint64 ref = *existing;
@@ -160,11 +163,12 @@ void PrivateProfile::write(const QString& section, const QString& key, const QSt
         changed_ = true;
         return;
     }
-    int index = sectionIndex_.value(sectionName, -1);
+    const QString foldedName = folded(section);
+    int index = sectionIndex_.value(foldedName, -1);
     if (index < 0) {
         // A new section goes at the end, after every line there is.
         index = static_cast<int>(sections_.size());
-        sectionIndex_.insert(sectionName, index);
+        sectionIndex_.insert(foldedName, index);
         sections_.push_back({static_cast<qint32>(lines_.size()), {}});
         sections_.back().inserted.push_back(static_cast<qint32>(written_.size()));
         written_ << QLatin1Char('[') + section + QLatin1Char(']');
