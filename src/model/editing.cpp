@@ -112,9 +112,13 @@ void togglePower(Codeplug& doc, int slot) {
                                                  : highPowerWord(doc.language);
 }
 
-void rebuildCodeTables(Codeplug& doc) {
+void resetCodeTables(Codeplug& doc) {
     doc.codeTable = buildCodeTable(doc.settings[SettingKey::normalmode], doc.language);
     for (ChannelRecord& ch : doc.plan) ch.rxctc = ch.txctc = QLatin1String(kCodeOff);
+}
+
+void rebuildCodeTables(Codeplug& doc) {
+    resetCodeTables(doc);
     RESET_TEXT(doc);
 }
 

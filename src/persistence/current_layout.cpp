@@ -71,7 +71,7 @@ void ReadSaveFile(Codeplug& doc, const PrivateProfile& profile) {
     // plan survives into slots the file leaves without one.
     doc.settings[SettingKey::normalmode] =
         profile.readInt(kConfig, settingKeyName(SettingKey::normalmode), 0);
-    rebuildCodeTables(doc);
+    resetCodeTables(doc);  // every cell is read below, then redrawn
 
     for (const ChannelSection& s : kChannelSections) {
         const QString section = QLatin1String(s.section);

@@ -63,7 +63,7 @@ UiLanguage savedLanguageFlag(const QString& text) {
 UiLanguage readNumberedLayout(Codeplug& doc, const QStringList& lines, int settingCount) {
     LineReader in(lines);
     doc.settings[SettingKey::normalmode] = leadingInteger(in.next());
-    rebuildCodeTables(doc);
+    resetCodeTables(doc);  // every cell is read below, then redrawn
     readBlocks(doc, in, 6);
     doc.settings[SettingKey::freqsel] = leadingInteger(in.next());
     doc.chtot = channelCountFromFile(in.next());

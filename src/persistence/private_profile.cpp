@@ -31,6 +31,10 @@ std::optional<Entry> entryOf(QStringView line) {
 
 // A value must stay on its line: a line break inside it would start a new key.
 QString oneLine(const QString& value) {
+    const auto breaksLine = [](QChar c) {
+        return c == QLatin1Char('\r') || c == QLatin1Char('\n') || c == QChar(0);
+    };
+    if (std::none_of(value.cbegin(), value.cend(), breaksLine)) return value;
     QString text = value;
     text.replace(QLatin1Char('\r'), QLatin1Char(' '));
     text.replace(QLatin1Char('\n'), QLatin1Char(' '));
