@@ -22,10 +22,12 @@ struct GlobalOptions {
     PortCatalogue portCatalogue() const;
 };
 
-// Exit statuses of the CLI.
+// Exit statuses of the CLI, the same for every command (listed by --help: kExitStatusHelp).
 constexpr int kExitOk = 0;
-constexpr int kExitFailed = 1;    // the radio did not answer, or a check failed
-constexpr int kExitBadInput = 2;  // bad usage or an unreadable file
+constexpr int kExitFailed = 1;      // the radio did not answer, or a check failed
+constexpr int kExitBadInput = 2;    // bad usage, or an input file that cannot be read
+constexpr int kExitCannotSave = 3;  // an output file could not be written; the old one is intact
+extern const char* const kExitStatusHelp;
 
 // Each command registers itself on the app and sets `run` when it is chosen.
 using CommandRunner = std::function<int()>;

@@ -18,10 +18,7 @@ int convert(const GlobalOptions& global, const ConvertArguments& files) {
     Codeplug doc = global.startupCodeplug();
     if (!loadCodeplugArgument(doc, files.in)) return kExitBadInput;
     // The output holds the codeplug alone, whatever a file of that name held before.
-    const auto failed =
-        WriteSaveFile(doc, QString::fromStdString(files.out), SaveMode::ReplaceFile);
-    if (failed) return reportFileError(*failed, doc.language, kExitFailed);
-    return kExitOk;
+    return saveCodeplugArgument(doc, files.out, SaveMode::ReplaceFile);
 }
 
 }  // namespace

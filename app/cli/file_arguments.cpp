@@ -3,14 +3,23 @@
 #include <QTextStream>
 #include <cstdio>
 
-int reportFileError(const FileError& error, UiLanguage language, int exitStatus) {
-    QTextStream(stderr) << "radioprog-cli: " << describeFileError(error, language) << '\n';
+#include "cli/commands.h"
+#include "l10n/error_texts.h"
+
+int reportError(const Error& error, UiLanguage language, int exitStatus) {
+    QTextStream(stderr) << "radioprog-cli: " << l10n::describeError(error, language) << '\n';
     return exitStatus;
 }
 
-std::optional<CodeplugLoadResult> loadCodeplugArgument(Codeplug& doc, const std::string& file) {
-    const CodeplugLoadResult loaded = openCodeplugFile(doc, QString::fromStdString(file));
-    if (loaded.ok()) return loaded;
-    reportFileError(*loaded.error, doc.language, 0);
+std::optional<LoadedCodeplug> loadCodeplugArgument(Codeplug& doc, const std::string& file) {
+    const Result<LoadedCodeplug> loaded = openCodeplugFile(doc, QString::fromStdString(file));
+    if (loaded) return *loaded;
+    reportError(loaded.error(), doc.language, kExitBadInput);
     return std::nullopt;
+}
+
+int saveCodeplugArgument(const Codeplug& doc, const std::string& file, SaveMode mode) {
+    const Result<void> saved = WriteSaveFile(doc, QString::fromStdString(file), mode);
+    if (!saved) return reportError(saved.error(), doc.language, kExitCannotSave);
+    return kExitOk;
 }

@@ -76,11 +76,9 @@ int runFirmware(const GlobalOptions& global, const FirmwareOptions& options) {
         job.operation = BootSession::Operation::Erase;
     } else if (options.action == "write") {
         job.operation = BootSession::Operation::Write;
-        auto image = readWholeFile(file);
-        if (auto* error = std::get_if<FileError>(&image)) {
-            return reportFileError(*error, language, kExitBadInput);
-        }
-        job.image = std::get<QByteArray>(image);
+        const Result<QByteArray> image = readWholeFile(file);
+        if (!image) return reportError(image.error(), language, kExitBadInput);
+        job.image = image.value();
         job.imagePath = file;
     } else {
         job.operation = BootSession::Operation::Read;
@@ -120,8 +118,8 @@ int runFirmware(const GlobalOptions& global, const FirmwareOptions& options) {
     progress.hideProgress();
     if (session.outcome() != BootSession::Outcome::Succeeded) return kExitFailed;
     if (job.operation == BootSession::Operation::Read) {
-        if (auto error = saveWholeFile(file, session.data())) {
-            return reportFileError(*error, language, kExitFailed);
+        if (const Result<void> saved = saveWholeFile(file, session.data()); !saved) {
+            return reportError(saved.error(), language, kExitCannotSave);
         }
     }
     return kExitOk;

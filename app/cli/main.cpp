@@ -1,7 +1,9 @@
 #include <QCoreApplication>
+#include <QTextStream>
 #include <cstdio>
 
 #include "cli/commands.h"
+#include "l10n/error_texts.h"
 #include "persistence/config_file.h"
 
 std::optional<UiLanguage> GlobalOptions::language() const {
@@ -15,12 +17,26 @@ QString GlobalOptions::configPath() const {
 }
 
 Codeplug GlobalOptions::startupCodeplug() const {
-    return loadStartupCodeplug(configPath(), ConfigCompletion::InMemoryOnly, language());
+    std::optional<Error> unreadable;
+    Codeplug doc =
+        loadStartupCodeplug(configPath(), ConfigCompletion::InMemoryOnly, language(), &unreadable);
+    if (unreadable) {
+        QTextStream(stderr) << "radioprog-cli: " << l10n::configWarning(*unreadable, doc.language)
+                            << '\n';
+    }
+    return doc;
 }
 
 PortCatalogue GlobalOptions::portCatalogue() const {
     return PortCatalogue::fromSystem(readPortPins(configPath()));
 }
+
+const char* const kExitStatusHelp =
+    "Exit status, for every command:\n"
+    "  0  done\n"
+    "  1  the radio did not answer, or a check refused the plan\n"
+    "  2  bad usage, or an input file that cannot be read\n"
+    "  3  an output file could not be written (an old file of that name is left as it was)";
 
 int main(int argc, char** argv) {
     QCoreApplication application(argc, argv);
@@ -29,6 +45,7 @@ int main(int argc, char** argv) {
     CLI::App app{"radioprog-cli: programs the hand-held radio's channel plan from a terminal"};
     app.require_subcommand(1);
     app.set_version_flag("--version", "radioprog-cli " RADIOPROG_VERSION);
+    app.footer(kExitStatusHelp);
     GlobalOptions global;
     app.add_option("--config", global.configDir, "folder that holds config.ini");
     app.add_option("--lang", global.lang, "language of the output: zh or en")

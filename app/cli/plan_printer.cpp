@@ -14,10 +14,11 @@ void printCodeplug(QTextStream& out, const Codeplug& doc) {
     const UiLanguage lang = doc.language;
     const auto editable = RESET_Ch_Sel(doc);
 
-    out << column(l10n::caption(40, lang), 9) << column(l10n::caption(41, lang), 14)
-        << column(l10n::caption(42, lang), 10) << column(l10n::caption(43, lang), 14)
-        << column(l10n::caption(44, lang), 10) << column(l10n::caption(45, lang), 10)
-        << l10n::caption(46, lang) << '\n';
+    using namespace l10n;
+    out << column(caption(CapChannel, lang), 9) << column(caption(CapRxFrequency, lang), 14)
+        << column(caption(CapRxCode, lang), 10) << column(caption(CapTxFrequency, lang), 14)
+        << column(caption(CapTxCode, lang), 10) << column(caption(CapBandwidth, lang), 10)
+        << caption(CapPower, lang) << '\n';
     for (int slot = 0; slot < kSlotCount; ++slot) {
         const ChannelRecord& ch = doc.plan[slot];
         out << QStringLiteral("%1 %2 ").arg(slot + 1, 2).arg(editable[slot] ? '*' : '-') << "   "
@@ -26,8 +27,8 @@ void printCodeplug(QTextStream& out, const Codeplug& doc) {
     }
     out << "(* active, - inactive)\n\n";
 
-    out << l10n::caption(48, lang) << ": " << doc.chtot << '\n';
-    out << l10n::caption(49, lang) << ": " << doc.freqstep << '\n';
+    out << caption(CapChannelCount, lang) << ": " << doc.chtot << '\n';
+    out << caption(CapFrequencyStep, lang) << ": " << doc.freqstep << '\n';
     for (SettingKey key : kAllSettings) {
         out << settingLabel(key, lang) << " (" << settingKeyName(key)
             << "): " << Show_Combo(key, doc.settings[key], lang) << '\n';

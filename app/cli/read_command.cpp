@@ -30,13 +30,8 @@ int readRadio(const GlobalOptions& global, const ReadOptions& options) {
     QTextStream out(stdout);
     printCodeplug(out, doc);
     out.flush();
-    if (!options.output.empty()) {
-        const QString path = QString::fromStdString(options.output);
-        if (const std::optional<FileError> error = WriteSaveFile(doc, path)) {
-            return reportFileError(*error, doc.language, kExitBadInput);
-        }
-    }
-    return kExitOk;
+    if (options.output.empty()) return kExitOk;
+    return saveCodeplugArgument(doc, options.output, SaveMode::KeepOtherLines);
 }
 
 }  // namespace

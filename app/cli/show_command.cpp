@@ -10,7 +10,7 @@
 
 namespace {
 
-QString layoutLine(const CodeplugLoadResult& result) {
+QString layoutLine(const LoadedCodeplug& result) {
     QString line = QStringLiteral("layout: ") + layoutName(result.layout);
     if (result.savedLanguage) {
         line +=
@@ -24,7 +24,7 @@ int showFile(const GlobalOptions& global, const std::string& file) {
     Codeplug doc = global.startupCodeplug();
     QTextStream out(stdout);
     if (!file.empty()) {
-        const std::optional<CodeplugLoadResult> loaded = loadCodeplugArgument(doc, file);
+        const std::optional<LoadedCodeplug> loaded = loadCodeplugArgument(doc, file);
         if (!loaded) return kExitBadInput;
         out << layoutLine(*loaded) << "\n\n";
     }

@@ -15,7 +15,13 @@ enum class ProgramText {
     FileTooLarge,
     FileNotCodeplug,  // nothing in it is a codeplug section or an old layout
     FileOld212Lines,  // the old 212-line layout, which is never read
-    FileCannotWrite,
+    FileCannotWrite,  // "cannot write FILE: reason", with %1 the file and %2 the reason
+    FileNoReason,     // the reason, when the system gave none
+    FileNotRegular,   // a device, FIFO or socket where a file is to be written
+    FileTooLargeToKeep,
+    ConfigUnreadable,        // config.ini exists but cannot be read; %1 says which and why
+    ChannelCustomToneError,  // after the channel prefix and number, as the message table's
+    ChannelCustomDcsError,
 };
 
 QString programText(ProgramText id, UiLanguage language);

@@ -20,14 +20,28 @@ constexpr int kInvertedOffset = 105;
 
 constexpr int kMaxStepCount = 32767;
 
+// The settings record: S0 and S1 hold one bit per two-way setting. S0 always carries 0x13;
+// the band is S1's low two bits, added as a number.
+constexpr int kS0Always = 0x13;
+struct SettingBit {
+    SettingKey key;
+    int byte;  // 0: S0, 1: S1
+    int mask;
+};
+constexpr SettingBit kSettingBits[] = {
+    {SettingKey::normalmode, 0, 0x40}, {SettingKey::txen, 0, 0x80},
+    {SettingKey::busytxdis, 0, 0x04},  {SettingKey::dtmfen, 0, 0x20},
+    {SettingKey::bluetooth, 0, 0x08},  {SettingKey::voicebrc, 1, 0x80},
+    {SettingKey::sos, 1, 0x10},        {SettingKey::fm, 1, 0x04},
+    {SettingKey::autolock, 1, 0x08},   {SettingKey::tot, 1, 0x40},
+    {SettingKey::agingtest, 1, 0x20},
+};
+
 bool isSet(int value, int mask) {
     return (value & mask) != 0;
 }
 int bitIf(bool condition, int mask) {
     return condition ? mask : 0;
-}
-int bitIfOne(const RadioSettings& s, SettingKey key, int mask) {
-    return bitIf(s[key] == 1, mask);
 }
 
 void putWord(QByteArray& record, int at, int value) {
@@ -48,28 +62,29 @@ struct CodeByte {
 };
 
 CodeByte codeByteOf(const QStringList& table, const QString& code) {
-    const int position = codeNumber(table, code);
+    const int position = OptionIndexLookup(table, code);
     if (position > kLastUnflaggedCode) return {position - kInvertedOffset, true};
     return {position, false};
 }
 
 // The custom value of one direction: the tone in 0.1 Hz, or for "CDCSS" the 24-bit DCS word
-// (its middle and low byte in the word, its high byte returned separately).
-std::optional<QString> putCustomValue(QByteArray& record, int wordAt, int highAt, bool cdcss,
-                                      const QString& tone, const QString& dcs) {
+// (its middle and low byte in the word, its high byte returned separately). Returns the field
+// whose value does not fit, if one does not.
+const char* putCustomValue(QByteArray& record, int wordAt, int highAt, bool cdcss,
+                           const QString& tone, const QString& dcs, const char* toneField,
+                           const char* dcsField) {
     if (!cdcss) {
         const double tenths = std::nearbyint(numericValue(tone) * 10.0);
-        if (tenths < 0 || tenths > 0xFFFF)
-            return QStringLiteral("custom tone %1 out of range").arg(tone);
+        if (tenths < 0 || tenths > 0xFFFF) return toneField;
         putWord(record, wordAt, static_cast<int>(tenths));
-        return std::nullopt;
+        return nullptr;
     }
     const double value = std::trunc(numericValue(dcs));
-    if (value < 0 || value > 0xFFFFFF) return QStringLiteral("custom DCS %1 out of range").arg(dcs);
+    if (value < 0 || value > 0xFFFFFF) return dcsField;
     const int word = static_cast<int>(value);
     putWord(record, wordAt, word & 0xFFFF);
     if (highAt < record.size()) record[highAt] = static_cast<char>(word >> 16);
-    return std::nullopt;
+    return nullptr;
 }
 
 QString toneText(int tenths) {
@@ -80,56 +95,46 @@ QString toneText(int tenths) {
 
 QByteArray encode_settings(const Codeplug& doc) {
     const RadioSettings& s = doc.settings;
-    const int s0 = 0x13 + bitIfOne(s, SettingKey::normalmode, 0x40) +
-                   bitIfOne(s, SettingKey::txen, 0x80) + bitIfOne(s, SettingKey::busytxdis, 0x04) +
-                   bitIfOne(s, SettingKey::dtmfen, 0x20) + bitIfOne(s, SettingKey::bluetooth, 0x08);
     // Band numbers outside 0..3 count as band 3 everywhere else, so they do here too.
     const int band = s[SettingKey::freqband];
-    const int s1 = (band >= 0 && band <= 3 ? band : 3) + bitIfOne(s, SettingKey::voicebrc, 0x80) +
-                   bitIfOne(s, SettingKey::sos, 0x10) + bitIfOne(s, SettingKey::fm, 0x04) +
-                   bitIfOne(s, SettingKey::autolock, 0x08) + bitIfOne(s, SettingKey::tot, 0x40) +
-                   bitIfOne(s, SettingKey::agingtest, 0x20);
-    const int s2 = static_cast<int>(numericValue(doc.chtot)) & 0xFF;
+    int record[2] = {kS0Always, band >= 0 && band <= 3 ? band : 3};
+    // Only an index of exactly 1 sets a bit: an out-of-range index writes 0.
+    for (const SettingBit& bit : kSettingBits) record[bit.byte] += bitIf(s[bit.key] == 1, bit.mask);
+    const int s2 = boundedInt(numericValue(doc.chtot), 0, 0xFF);
 
     QByteArray payload(6, '\0');  // block 0, sub 0, S0..S3
-    payload[2] = static_cast<char>(s0);
-    payload[3] = static_cast<char>(s1);
+    payload[2] = static_cast<char>(record[0]);
+    payload[3] = static_cast<char>(record[1]);
     payload[4] = static_cast<char>(s2);
     return LinkFrame{kWriteSettings, payload}.encode();
 }
 
 bool decode_settings(Codeplug& doc, const QByteArray& payload) {
     if (payload.size() < 3) return false;
-    const int d0 = static_cast<quint8>(payload[0]);
-    const int d1 = static_cast<quint8>(payload[1]);
-    const int d2 = static_cast<quint8>(payload[2]);
+    const int record[2] = {static_cast<quint8>(payload[0]), static_cast<quint8>(payload[1])};
+    const int count = static_cast<quint8>(payload[2]);
     RadioSettings& s = doc.settings;
 
-    const int mode = isSet(d0, 0x40) ? 1 : 0;
-    if (mode != s[SettingKey::normalmode]) {
-        s[SettingKey::normalmode] = static_cast<qint16>(mode);
+    // A mode change rebuilds the code tables, so it is taken over only when it is one.
+    const SettingBit& mode = kSettingBits[0];
+    static_assert(kSettingBits[0].key == SettingKey::normalmode);
+    const int modeValue = isSet(record[mode.byte], mode.mask) ? 1 : 0;
+    if (modeValue != s[SettingKey::normalmode]) {
+        s[SettingKey::normalmode] = static_cast<qint16>(modeValue);
         rebuildCodeTables(doc);
     }
-    const struct {
-        SettingKey key;
-        int byte;
-        int mask;
-    } bits[] = {
-        {SettingKey::txen, d0, 0x80},     {SettingKey::busytxdis, d0, 0x04},
-        {SettingKey::dtmfen, d0, 0x20},   {SettingKey::bluetooth, d0, 0x08},
-        {SettingKey::voicebrc, d1, 0x80}, {SettingKey::sos, d1, 0x10},
-        {SettingKey::fm, d1, 0x04},       {SettingKey::autolock, d1, 0x08},
-        {SettingKey::tot, d1, 0x40},      {SettingKey::agingtest, d1, 0x20},
-    };
-    for (const auto& bit : bits) s[bit.key] = isSet(bit.byte, bit.mask) ? 1 : 0;
+    for (const SettingBit& bit : kSettingBits) {
+        if (bit.key != SettingKey::normalmode)
+            s[bit.key] = isSet(record[bit.byte], bit.mask) ? 1 : 0;
+    }
 
     // The radio's band bits are not taken over: the configured band stays.
     s[SettingKey::freqband] = static_cast<qint16>(doc.defaultBand);
-    doc.chtot = QString::number(std::min(d2, kSlotCount));
+    doc.chtot = QString::number(std::min(count, kSlotCount));
     return true;
 }
 
-std::variant<QByteArray, EncodeError> encode_channel(const Codeplug& doc, int slot) {
+Result<QByteArray> encode_channel(const Codeplug& doc, int slot) {
     const ChannelRecord& ch = doc.plan[slot];
     const int lower = doc.bandLimits().lower;
     const bool rxOn625 = doc.RxStepFlags[slot];
@@ -137,12 +142,11 @@ std::variant<QByteArray, EncodeError> encode_channel(const Codeplug& doc, int sl
 
     const std::optional<int> rxSteps = stepCount(ch.rxfreq, lower, rxOn625 ? 6.25 : 5.0);
     const std::optional<int> txSteps = stepCount(ch.txfreq, lower, txOn625 ? 6.25 : 5.0);
-    if (!rxSteps)
-        return EncodeError{slot,
-                           QStringLiteral("receive frequency %1 does not fit").arg(ch.rxfreq)};
-    if (!txSteps)
-        return EncodeError{slot,
-                           QStringLiteral("transmit frequency %1 does not fit").arg(ch.txfreq)};
+    const auto doesNotFit = [slot](const char* field, const QString& value) {
+        return Error::inChannel(ErrorKind::ValueDoesNotFit, slot + 1, QLatin1String(field), value);
+    };
+    if (!rxSteps) return doesNotFit("rxfreq", ch.rxfreq);
+    if (!txSteps) return doesNotFit("txfreq", ch.txfreq);
 
     const CodeByte rxCode = codeByteOf(doc.codeTable, ch.rxctc);
     const CodeByte txCode = codeByteOf(doc.codeTable, ch.txctc);
@@ -163,10 +167,13 @@ std::variant<QByteArray, EncodeError> encode_channel(const Codeplug& doc, int sl
         flags += bitIf(rxCode.inverted, kRxInverted) + bitIf(txCode.inverted, kTxInverted);
     record[kFlags] = static_cast<char>(flags);
 
-    for (const auto& fault :
-         {putCustomValue(record, kRxCustom, kRxDcsHigh, rxCdcss, ch.rxctcfreq, ch.rxcdc),
-          putCustomValue(record, kTxCustom, kTxDcsHigh, txCdcss, ch.txctcfreq, ch.txcdc)}) {
-        if (fault) return EncodeError{slot, *fault};
+    if (const char* field = putCustomValue(record, kRxCustom, kRxDcsHigh, rxCdcss, ch.rxctcfreq,
+                                           ch.rxcdc, "rxctcfreq", "rxcdc")) {
+        return doesNotFit(field, rxCdcss ? ch.rxcdc : ch.rxctcfreq);
+    }
+    if (const char* field = putCustomValue(record, kTxCustom, kTxDcsHigh, txCdcss, ch.txctcfreq,
+                                           ch.txcdc, "txctcfreq", "txcdc")) {
+        return doesNotFit(field, txCdcss ? ch.txcdc : ch.txctcfreq);
     }
 
     QByteArray payload;

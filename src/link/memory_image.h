@@ -2,19 +2,13 @@
 
 #include <QByteArray>
 #include <QString>
-#include <variant>
 
 #include "model/codeplug.h"
 #include "model/notice.h"
+#include "model/result.h"
 
 // The radio's memory image: the 4-byte settings record and the 11- or 13-byte channel record,
 // and their conversion to and from the document. Records are big-endian.
-
-// What went wrong while encoding a channel (a frequency or custom value that does not fit).
-struct EncodeError {
-    int slot = 0;
-    QString reason;
-};
 
 // "X" request frame (9 bytes) from the settings and chtot: block 0, sub 0, S0..S3.
 QByteArray encode_settings(const Codeplug& doc);
@@ -24,8 +18,10 @@ QByteArray encode_settings(const Codeplug& doc);
 // Returns false (and changes nothing) for a payload shorter than 3 bytes.
 bool decode_settings(Codeplug& doc, const QByteArray& payload);
 
-// "W" request frame for one slot (16 or 18 bytes), or why it cannot be built.
-std::variant<QByteArray, EncodeError> encode_channel(const Codeplug& doc, int slot);
+// "W" request frame for one slot (16 or 18 bytes), or why it cannot be built: a ValueDoesNotFit
+// error naming the channel and the field (a frequency below the band or too high, a custom
+// value too large).
+Result<QByteArray> encode_channel(const Codeplug& doc, int slot);
 
 // Takes a reply to "R" into one slot. A reply of the wrong length, or whose step counts do not
 // fit 15 bits, leaves the slot unchanged and returns false. The receive frequency goes through

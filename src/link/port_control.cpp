@@ -48,7 +48,7 @@ void PortControl::com_sel(int number) {
     warnPortFault();
     Set_StBar(prompts_, MessageId::MsgPortClosed, language_);
     com_check_clr();
-    comboText_.clear();
+    comboPort_ = 0;
 }
 
 void PortControl::com_check_set(int number) {
@@ -57,23 +57,22 @@ void PortControl::com_check_set(int number) {
 }
 
 void PortControl::check_uart() {
-    comboItems_.clear();
+    comboPorts_.clear();
     comboIndex_ = -1;
-    comboText_.clear();
+    comboPort_ = 0;
     port_.close();
     for (int number = 1; number <= kScannedPorts; ++number) {
         const QString device = catalogue_.deviceFor(number);
         if (device.isEmpty()) continue;
-        if (port_.open(device) == PortOpenError::None) comboItems_ << comName(number);
+        if (port_.open(device) == PortOpenError::None) comboPorts_ << number;
         port_.close();
     }
-    if (!comboItems_.isEmpty()) selectComboItem(0);
+    if (!comboPorts_.isEmpty()) selectComboItem(0);
 }
 
 bool PortControl::check_ComIndex(int number) {
-    const QString text = comName(number);
-    for (int i = 0; i < std::min<int>(kScannedPorts, comboItems_.size()); ++i) {
-        if (comboItems_.at(i) == text) {
+    for (int i = 0; i < std::min<int>(kScannedPorts, comboPorts_.size()); ++i) {
+        if (comboPorts_.at(i) == number) {
             selectComboItem(i);
             return true;
         }
@@ -83,14 +82,14 @@ bool PortControl::check_ComIndex(int number) {
 
 int PortControl::get_ComNum(int index) {
     selectComboItem(index);
-    return comboText_.mid(3).toInt();
+    return comboPort_;
 }
 
 void PortControl::Combo18_Click(int index) {
     port_.close();
     selectComboItem(index);
     if (comboIndex_ == -1) return;
-    const int number = comboText_.mid(3).toInt();
+    const int number = comboPort_;
     com_check_clr();
     Set_Com(number);  // a failure here is passed over, as every step of this choice
     com_check_set(number);
@@ -168,8 +167,18 @@ void PortControl::portLost() {
 }
 
 QString PortControl::deviceToolTip(int index) const {
-    if (index < 0 || index >= comboItems_.size()) return {};
-    return catalogue_.deviceFor(comboItems_.at(index).mid(3).toInt());
+    if (index < 0 || index >= comboPorts_.size()) return {};
+    return catalogue_.deviceFor(comboPorts_.at(index));
+}
+
+QStringList PortControl::comboItems() const {
+    QStringList items;
+    for (int number : comboPorts_) items << comName(number);
+    return items;
+}
+
+QString PortControl::comboText() const {
+    return comboPort_ == 0 ? QString() : comName(comboPort_);
 }
 
 void PortControl::showPortNumber(int number) {
@@ -181,7 +190,7 @@ void PortControl::warnPortFault() {
 }
 
 void PortControl::selectComboItem(int index) {
-    if (index < 0 || index >= comboItems_.size()) return;  // an empty list selects nothing
+    if (index < 0 || index >= comboPorts_.size()) return;  // an empty list selects nothing
     comboIndex_ = index;
-    comboText_ = comboItems_.at(index);
+    comboPort_ = comboPorts_.at(index);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QList>
 #include <QString>
 #include <QStringList>
 
@@ -16,7 +17,7 @@ class Prompts;
 class PortControl {
 public:
     static constexpr int kScannedPorts = 16;
-    static constexpr int kComxItem = 17;  // the menu item for numbers outside 1..16
+    static constexpr int kComxItem = 17;         // the menu item for numbers outside 1..16
     static constexpr int kComxDialogItems = 65;  // the "COM X" dialog offers "0" .. "64"
 
     PortControl(SerialPort& port, PortCatalogue catalogue, Prompts& prompts, UiLanguage language);
@@ -36,7 +37,7 @@ public:
     // The port is closed afterwards.
     void check_uart();
     bool check_ComIndex(int number);
-    // Selects drop-down item `index` and returns the number after its "COM".
+    // Selects drop-down item `index` and returns its port number.
     int get_ComNum(int index);
     // The drop-down's selection changed to `index`; failures pass unnoticed.
     void Combo18_Click(int index);
@@ -60,9 +61,11 @@ public:
 
     // The menu item checked: 0 none, 1..16 comN, kComxItem comx.
     int checkedItem() const { return checkedItem_; }
-    const QStringList& comboItems() const { return comboItems_; }
+    // The drop-down's items as shown ("COM5"), and the port numbers behind them.
+    QStringList comboItems() const;
+    const QList<int>& comboPorts() const { return comboPorts_; }
     int comboIndex() const { return comboIndex_; }
-    QString comboText() const { return comboText_; }
+    QString comboText() const;
     // Tool-tip of a drop-down item: the device behind it.
     QString deviceToolTip(int index) const;
     int selectedPort() const { return selectedPort_; }
@@ -80,9 +83,9 @@ private:
     UiLanguage language_;
 
     int checkedItem_ = 0;
-    QStringList comboItems_;
+    QList<int> comboPorts_;
     int comboIndex_ = -1;
-    QString comboText_;
+    int comboPort_ = 0;           // the number the drop-down shows; 0: it shows nothing
     int selectedPort_ = 0;        // SelectedPort
     int customPort_ = kComxItem;  // CustomPort: 17 until the dialog is first confirmed
 };

@@ -46,9 +46,8 @@ std::optional<Notice> WriteSession::checkFrequencies(const Codeplug& doc) {
 
 std::optional<Notice> WriteSession::checkEncodable(const Codeplug& doc) {
     for (int slot = 0; slot < kSlotCount; ++slot) {
-        if (std::holds_alternative<EncodeError>(encode_channel(doc, slot))) {
-            return Notice{MessageId::MsgChannelFreqError, slot + 1};
-        }
+        const Result<QByteArray> frame = encode_channel(doc, slot);
+        if (!frame) return noticeOf(frame.error());
     }
     return std::nullopt;
 }
@@ -101,12 +100,11 @@ void WriteSession::sendSettings() {
 
 void WriteSession::sendChannel() {
     const auto frame = encode_channel(doc_, channel_);
-    if (std::holds_alternative<EncodeError>(frame)) {
+    if (!frame) {
         errorEnd();
         return;
     }
-    transport_.request(std::get<QByteArray>(frame), kReplyMs, kChannelAttempts,
-                       {protocol::kAcknowledgeLength});
+    transport_.request(*frame, kReplyMs, kChannelAttempts, {protocol::kAcknowledgeLength});
 }
 
 void WriteSession::replyReceived(const QByteArray&) {

@@ -5,6 +5,7 @@
 #include <QMenu>
 #include <QPushButton>
 
+#include "l10n/error_texts.h"
 #include "l10n/window_texts.h"
 #include "mainwindow/channel_grid_model.h"
 #include "mainwindow/channel_grid_view.h"
@@ -18,11 +19,33 @@ namespace {
 
 // Caption-table entries of the main window's own widgets.
 enum : int {
-    kMenuFile = 1, kMenuOpen, kMenuSave, kMenuExit, kMenuSetup, kMenuPort, kMenuRate,
-    kMenuOther, kMenuModel, kMenuProgram, kMenuRead, kMenuWrite, kMenuEngineering,
-    kMenuTestMode, kMenuIdentity, kMenuLanguage, kButtonOpen, kButtonSave,
-    kGridFrame = 39, kEditFrame = 47, kChannelCountLabel, kStepLabel, kButtonRx, kButtonTx,
-    kButtonWrite, kButtonRead, kMenuAudioTest = 58,
+    kMenuFile = 1,
+    kMenuOpen,
+    kMenuSave,
+    kMenuExit,
+    kMenuSetup,
+    kMenuPort,
+    kMenuRate,
+    kMenuOther,
+    kMenuModel,
+    kMenuProgram,
+    kMenuRead,
+    kMenuWrite,
+    kMenuEngineering,
+    kMenuTestMode,
+    kMenuIdentity,
+    kMenuLanguage,
+    kButtonOpen,
+    kButtonSave,
+    kGridFrame = 39,
+    kEditFrame = 47,
+    kChannelCountLabel,
+    kStepLabel,
+    kButtonRx,
+    kButtonTx,
+    kButtonWrite,
+    kButtonRead,
+    kMenuAudioTest = 58,
 };
 
 }  // namespace
@@ -82,9 +105,8 @@ void MainWindow::refreshDocumentViews() {
     for (SettingKey key : kAllSettings) {
         QComboBox* box = settingBoxes_[static_cast<int>(key)];
         const QSignalBlocker quiet(box);
-        box->setCurrentIndex(Show_Combo(key, doc_.settings[key], doc_.language).isEmpty()
-                                 ? -1
-                                 : doc_.settings[key]);
+        box->setCurrentIndex(
+            Show_Combo(key, doc_.settings[key], doc_.language).isEmpty() ? -1 : doc_.settings[key]);
     }
     {
         const QSignalBlocker quiet(channelCountBox_);
@@ -166,10 +188,10 @@ void MainWindow::openFile() {
     if (path.isEmpty()) return;
     closeGridEditor();
     statusTimer_.stop();
-    const CodeplugLoadResult result = openCodeplugFile(doc_, path);
-    if (!result.ok()) {
+    const Result<LoadedCodeplug> result = openCodeplugFile(doc_, path);
+    if (!result) {
         statusRelay_.showMessage(
-            warningBox(describeFileError(*result.error, doc_.language), doc_.language));
+            warningBox(l10n::describeError(result.error(), doc_.language), doc_.language));
     }
     // Menu and button alike refresh every view from the document: the settings are the truth.
     applyCaptions();
@@ -183,8 +205,9 @@ void MainWindow::saveFile() {
     if (QFileInfo(path).suffix().isEmpty()) path += QStringLiteral(".qzv");
     closeGridEditor();
     RESET_TEXT(doc_);
-    if (const std::optional<FileError> error = WriteSaveFile(doc_, path)) {
-        statusRelay_.showMessage(warningBox(describeFileError(*error, doc_.language), doc_.language));
+    if (const Result<void> saved = WriteSaveFile(doc_, path); !saved) {
+        statusRelay_.showMessage(
+            warningBox(l10n::describeError(saved.error(), doc_.language), doc_.language));
     }
     refreshDocumentViews();
 }

@@ -31,15 +31,15 @@ const char* const kProfessionalTones[] = {
 };
 
 const char* const kProfessionalDcs[] = {
-    "023", "025", "026", "031", "032", "036", "043", "047", "051", "053", "054", "065", "071",
-    "072", "073", "074", "114", "115", "116", "122", "125", "131", "132", "134", "143", "145",
-    "152", "155", "156", "162", "165", "172", "174", "205", "212", "223", "225", "226", "243",
-    "244", "245", "246", "251", "252", "255", "261", "263", "265", "266", "271", "274", "306",
-    "311", "315", "325", "331", "332", "343", "346", "351", "356", "364", "365", "371", "411",
-    "412", "413", "423", "431", "432", "445", "446", "452", "454", "455", "462", "464", "465",
-    "466", "503", "506", "516", "523", "526", "532", "546", "565", "606", "612", "624", "627",
-    "631", "632", "645", "654", "662", "664", "703", "712", "723", "731", "732", "734", "743",
-    "754",
+    "023", "025", "026", "031", "032", "036", "043", "047", "051", "053", "054", "065",
+    "071", "072", "073", "074", "114", "115", "116", "122", "125", "131", "132", "134",
+    "143", "145", "152", "155", "156", "162", "165", "172", "174", "205", "212", "223",
+    "225", "226", "243", "244", "245", "246", "251", "252", "255", "261", "263", "265",
+    "266", "271", "274", "306", "311", "315", "325", "331", "332", "343", "346", "351",
+    "356", "364", "365", "371", "411", "412", "413", "423", "431", "432", "445", "446",
+    "452", "454", "455", "462", "464", "465", "466", "503", "506", "516", "523", "526",
+    "532", "546", "565", "606", "612", "624", "627", "631", "632", "645", "654", "662",
+    "664", "703", "712", "723", "731", "732", "734", "743", "754",
 };
 
 template <std::size_t N>
@@ -50,31 +50,37 @@ void append(QStringList& table, const char* const (&entries)[N], const char* pre
 }  // namespace
 
 QStringList NormalCodeTable() {
-    QStringList table{QLatin1String(kCodeOff)};
-    append(table, kNormalTones);
-    append(table, kNormalDcs, "D");
+    // Built once: every mode switch and file load takes a table, and copies share its entries.
+    static const QStringList table = [] {
+        QStringList built{QLatin1String(kCodeOff)};
+        append(built, kNormalTones);
+        append(built, kNormalDcs, "D");
+        return built;
+    }();
     return table;
 }
 
 QStringList ProfessionalCodeTable(UiLanguage language) {
-    QStringList table{QLatin1String(kCodeOff)};
-    append(table, kProfessionalTones);
-    append(table, kProfessionalDcs, "D");
-    append(table, kProfessionalDcs, "I");  // inverted = normal + 105
-    table << l10n::caption(l10n::CapCustomTone, language) << QLatin1String(kCdcssText);
-    return table;
+    const auto build = [](UiLanguage words) {
+        QStringList built{QLatin1String(kCodeOff)};
+        append(built, kProfessionalTones);
+        append(built, kProfessionalDcs, "D");
+        append(built, kProfessionalDcs, "I");  // inverted = normal + 105
+        built << l10n::caption(l10n::CapCustomTone, words) << QLatin1String(kCdcssText);
+        return built;
+    };
+    static const QStringList chinese = build(UiLanguage::Chinese);
+    static const QStringList english = build(UiLanguage::English);
+    return language == UiLanguage::Chinese ? chinese : english;
 }
 
 QStringList buildCodeTable(int normalmode, UiLanguage language) {
     return normalmode == 1 ? ProfessionalCodeTable(language) : NormalCodeTable();
 }
 
-int codeNumber(const QStringList& table, const QString& text) {
-    const int position = table.indexOf(text);
-    return position < 0 ? static_cast<int>(table.size()) : position;
+QString codeText(const QStringList& table, int number) {
+    return table.value(number);
 }
-
-QString codeText(const QStringList& table, int number) { return table.value(number); }
 
 bool isCustomToneText(const QString& text) {
     return text == l10n::caption(l10n::CapCustomTone, UiLanguage::Chinese) ||

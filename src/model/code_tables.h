@@ -18,8 +18,7 @@ QStringList NormalCodeTable();
 QStringList ProfessionalCodeTable(UiLanguage language);
 QStringList buildCodeTable(int normalmode, UiLanguage language);
 
-// Position of the first entry equal to `text`, or the table size when there is none.
-int codeNumber(const QStringList& table, const QString& text);
+// A code's number is OptionIndexLookup(table, text) (model/settings.h), as for any selector.
 // Entry at `number`; a number beyond the table gives an empty text.
 QString codeText(const QStringList& table, int number);
 

@@ -1,6 +1,7 @@
 #include "model/editing.h"
 
 #include <cmath>
+#include <limits>
 #include <optional>
 
 #include "model/code_tables.h"
@@ -23,7 +24,10 @@ bool placeOnRaster(QString& text, int lower) {
     const std::optional<double> value = strictNumber(text);
     if (!value) return false;  // not a number: nothing to put on a raster
 
-    const float d = static_cast<float>((*value - lower) * 1000.0);  // kHz above L
+    const double khz = (*value - lower) * 1000.0;
+    // A float cannot hold it ("1e300"): far from any band, so on no raster; left as typed.
+    if (!(std::fabs(khz) <= std::numeric_limits<float>::max())) return false;
+    const float d = static_cast<float>(khz);  // kHz above L
     const double on625 = static_cast<double>(d) / 6.25;
     const bool on6 = on625 == std::floor(on625);
     const float on5Steps = d / 5.0f;
@@ -108,9 +112,13 @@ void togglePower(Codeplug& doc, int slot) {
                                                  : highPowerWord(doc.language);
 }
 
-void rebuildCodeTables(Codeplug& doc) {
+void resetCodeTables(Codeplug& doc) {
     doc.codeTable = buildCodeTable(doc.settings[SettingKey::normalmode], doc.language);
     for (ChannelRecord& ch : doc.plan) ch.rxctc = ch.txctc = QLatin1String(kCodeOff);
+}
+
+void rebuildCodeTables(Codeplug& doc) {
+    resetCodeTables(doc);
     RESET_TEXT(doc);
 }
 
@@ -152,6 +160,5 @@ bool pickCode(Codeplug& doc, int slot, CodeDirection direction, int position) {
     ChannelRecord& ch = doc.plan[slot];
     (direction == CodeDirection::Rx ? ch.rxctc : ch.txctc) = codeText(doc.codeTable, position);
     RESET_TEXT(doc);
-    return doc.settings[SettingKey::normalmode] == 1 &&
-           position == kProfessionalCustomTonePosition;
+    return doc.settings[SettingKey::normalmode] == 1 && position == kProfessionalCustomTonePosition;
 }

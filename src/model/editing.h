@@ -34,6 +34,8 @@ void togglePower(Codeplug& doc, int slot);
 // Rebuilds the code table for the current `normalmode` and resets every slot's codes, active
 // or not, to "OFF"; then RESET_TEXT. Used after a mode change and by the file readers.
 void rebuildCodeTables(Codeplug& doc);
+// The same without the redraw, for a file reader that fills every cell and redraws at its end.
+void resetCodeTables(Codeplug& doc);
 
 // The user chose another mode: taken over only when the channels are not fixed.
 // Returns whether it was taken over.

@@ -37,6 +37,12 @@ std::optional<double> strictNumber(const QString& text) {
     return value;
 }
 
+int boundedInt(double value, int low, int high) {
+    if (!(value >= low)) return low;  // NaN too
+    if (value >= high) return high;
+    return static_cast<int>(value);
+}
+
 QString formatFrequencyValue(double megahertz) {
     // "000.00000": at least three integer digits, exactly five decimals.
     QString digits = QString::asprintf("%09.5f", std::fabs(megahertz));
@@ -51,9 +57,13 @@ QString formatFrequency(const QString& text) {
 
 BandLimits BandLimits::forBand(int freqband) {
     switch (freqband) {
-        case 0: return BandLimits{400};
-        case 1: return BandLimits{300};
-        case 2: return BandLimits{200};
-        default: return BandLimits{100};
+        case 0:
+            return BandLimits{400};
+        case 1:
+            return BandLimits{300};
+        case 2:
+            return BandLimits{200};
+        default:
+            return BandLimits{100};
     }
 }

@@ -13,6 +13,10 @@ double numericValue(const QString& text);
 // The value of a text that is a number as a whole (surrounding blanks allowed), else nothing.
 std::optional<double> strictNumber(const QString& text);
 
+// A number held to [low, high] before it becomes an int; NaN gives `low`. Every text-to-number
+// conversion goes through this, since a double outside int's range has no int value at all.
+int boundedInt(double value, int low, int high);
+
 // Applies the picture "000.00000" to the value of a number text; other text is returned as is.
 QString formatFrequency(const QString& text);
 QString formatFrequencyValue(double megahertz);

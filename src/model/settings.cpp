@@ -7,16 +7,10 @@
 #include "l10n/texts.h"
 
 const std::array<SettingKey, kSettingCount> kAllSettings = {
-    SettingKey::freqsel, SettingKey::normalmode, SettingKey::txen,     SettingKey::busytxdis,
-    SettingKey::dtmfen,  SettingKey::voicebrc,   SettingKey::sos,      SettingKey::bluetooth,
-    SettingKey::fm,      SettingKey::autolock,   SettingKey::freqband, SettingKey::tot,
+    SettingKey::freqsel,   SettingKey::normalmode, SettingKey::txen,     SettingKey::busytxdis,
+    SettingKey::dtmfen,    SettingKey::voicebrc,   SettingKey::sos,      SettingKey::bluetooth,
+    SettingKey::fm,        SettingKey::autolock,   SettingKey::freqband, SettingKey::tot,
     SettingKey::agingtest,
-};
-
-const std::array<SettingKey, 12> kSettingsCheckedBeforeWrite = {
-    SettingKey::normalmode, SettingKey::txen,     SettingKey::busytxdis, SettingKey::dtmfen,
-    SettingKey::voicebrc,   SettingKey::sos,      SettingKey::bluetooth, SettingKey::fm,
-    SettingKey::autolock,   SettingKey::freqband, SettingKey::tot,       SettingKey::agingtest,
 };
 
 namespace {
@@ -35,26 +29,48 @@ struct SettingRow {
 
 const std::vector<SettingRow>& settingRows() {
     using K = SettingKey;
-    static const std::vector<SettingRow> rows = {
-        {{K::freqsel, "Combo1", "chk_range"}, "freqsel", {20, 21, 22, 23}, kFixedLabel, "频率选择"},
-        {{K::normalmode, "Combo4", "chk_Combo4"}, "normalmode", {25, 26}, kFixedLabel, "模式选择"},
-        {{K::txen, "Combo5", "chk_Combo5"}, "txen", {29, 30}, 27, nullptr},
-        {{K::busytxdis, "Combo6", "chk_Combo6"}, "busytxdis", {33, 34}, 31, nullptr},
-        {{K::dtmfen, "Combo7", "chk_Combo7"}, "dtmfen", {37, 38}, 35, nullptr},
-        {{K::voicebrc, "Combo8", "chk_Combo8"}, "voicebrc", {37, 38}, 59, nullptr},
-        {{K::sos, "Combo9", "chk_Combo9"}, "sos", {37, 38}, kFixedLabel, "SOS"},
-        {{K::bluetooth, "Combo10", "chk_Combo10"}, "bluetooth", {37, 38}, 60, nullptr},
-        {{K::fm, "Combo11", "chk_Combo11"}, "fm", {37, 38}, kFixedLabel, "FM"},
-        {{K::autolock, "Combo14", "chk_Combo14"}, "autolock", {37, 38}, 62, nullptr},
-        {{K::freqband, "Combo15", "chk_Combo15"}, "freqband", {63, 64, 65, 66}, kFixedLabel, "频段"},
-        {{K::tot, "Combo16", "chk_Combo16"}, "tot", {29, 30}, kFixedLabel, "TOT"},
-        // Reversed on purpose: for the aging test, 0 means Disable.
-        {{K::agingtest, "Combo17", "chk_Combo17"}, "agingtest", {30, 29}, kFixedLabel, "老化"},
-    };
+    static const std::vector<SettingRow> rows = [] {
+        using namespace l10n;
+        const std::vector<int> standards = {CapStandardUsa, CapStandardUsa + 1, CapStandardUsa + 2,
+                                            CapStandardUsa + 3};
+        const std::vector<int> bands = {CapBand0, CapBand0 + 1, CapBand0 + 2, CapBand0 + 3};
+        const std::vector<int> enableDisable = {CapEnable, CapDisable};
+        const std::vector<int> offOn = {CapSwitchOff, CapSwitchOn};
+        return std::vector<SettingRow>{
+            {{K::freqsel, "Combo1", "chk_range"}, "freqsel", standards, kFixedLabel, "频率选择"},
+            {{K::normalmode, "Combo4", "chk_Combo4"},
+             "normalmode",
+             {CapModeNormal, CapModeProfessional},
+             kFixedLabel,
+             "模式选择"},
+            {{K::txen, "Combo5", "chk_Combo5"}, "txen", enableDisable, CapTx, nullptr},
+            {{K::busytxdis, "Combo6", "chk_Combo6"},
+             "busytxdis",
+             {CapOff, CapOn},
+             CapBusyLock,
+             nullptr},
+            {{K::dtmfen, "Combo7", "chk_Combo7"}, "dtmfen", offOn, CapDtmf, nullptr},
+            {{K::voicebrc, "Combo8", "chk_Combo8"}, "voicebrc", offOn, CapVoice, nullptr},
+            {{K::sos, "Combo9", "chk_Combo9"}, "sos", offOn, kFixedLabel, "SOS"},
+            {{K::bluetooth, "Combo10", "chk_Combo10"}, "bluetooth", offOn, CapBluetooth, nullptr},
+            {{K::fm, "Combo11", "chk_Combo11"}, "fm", offOn, kFixedLabel, "FM"},
+            {{K::autolock, "Combo14", "chk_Combo14"}, "autolock", offOn, CapAutoLock, nullptr},
+            {{K::freqband, "Combo15", "chk_Combo15"}, "freqband", bands, kFixedLabel, "频段"},
+            {{K::tot, "Combo16", "chk_Combo16"}, "tot", enableDisable, kFixedLabel, "TOT"},
+            // Reversed on purpose: for the aging test, 0 means Disable.
+            {{K::agingtest, "Combo17", "chk_Combo17"},
+             "agingtest",
+             {CapDisable, CapEnable},
+             kFixedLabel,
+             "老化"},
+        };
+    }();
     return rows;
 }
 
-const SettingRow& rowOf(SettingKey key) { return settingRows()[static_cast<int>(key)]; }
+const SettingRow& rowOf(SettingKey key) {
+    return settingRows()[static_cast<int>(key)];
+}
 
 QStringList numberTexts(int first, int last, int step) {
     QStringList texts;
@@ -64,9 +80,13 @@ QStringList numberTexts(int first, int last, int step) {
 
 }  // namespace
 
-QString settingKeyName(SettingKey key) { return QString::fromLatin1(rowOf(key).keyName); }
+QString settingKeyName(SettingKey key) {
+    return QString::fromLatin1(rowOf(key).keyName);
+}
 
-const SettingSelector& selectorOf(SettingKey key) { return rowOf(key).selector; }
+const SettingSelector& selectorOf(SettingKey key) {
+    return rowOf(key).selector;
+}
 
 QStringList settingOptions(SettingKey key, UiLanguage language) {
     QStringList options;
@@ -94,5 +114,9 @@ void takeOverSelectorText(RadioSettings& settings, SettingKey key, const QString
     settings[key] = static_cast<qint16>(OptionIndexLookup(settingOptions(key, language), text));
 }
 
-QStringList channelCountOptions() { return numberTexts(1, 25, 1); }
-QStringList frequencyStepOptions() { return numberTexts(100, 900, 100); }
+QStringList channelCountOptions() {
+    return numberTexts(1, 25, 1);
+}
+QStringList frequencyStepOptions() {
+    return numberTexts(100, 900, 100);
+}

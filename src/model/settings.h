@@ -67,10 +67,6 @@ QString Show_Combo(SettingKey key, int index, UiLanguage language);
 void takeOverSelectorText(RadioSettings& settings, SettingKey key, const QString& text,
                           UiLanguage language);
 
-// The twelve settings the write command re-reads from their selectors, in that order
-// (chk_Combo4 … chk_Combo17: every setting but the frequency standard).
-extern const std::array<SettingKey, 12> kSettingsCheckedBeforeWrite;
-
 // Options of the channel-count ("1".."25") and step ("100".."900") selectors.
 QStringList channelCountOptions();
 QStringList frequencyStepOptions();

@@ -2,9 +2,11 @@
 
 #include <QString>
 #include <array>
+#include <optional>
 
 #include "l10n/language.h"
 #include "model/channel.h"
+#include "model/result.h"
 
 // What the configuration file gives the start-up document: the language, whether the channel
 // table is fixed, the start channel count and band, and a start value per slot. Defaults are
@@ -24,4 +26,7 @@ struct StartupConfig {
     QString maxch = QStringLiteral("22");  // start text of the channel-count selector
     int defband = 0;                       // start `freqband`
     ChannelPresets presets;
+    // Set when config.ini exists but could not be read (a folder, no permission, too large):
+    // the defaults above apply, and the user is told once, naming the file.
+    std::optional<Error> unreadable;
 };

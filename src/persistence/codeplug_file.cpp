@@ -14,17 +14,12 @@ constexpr int kLinesV13 = 213;
 constexpr int kLinesV16 = 214;
 constexpr int kLinesV18 = 215;
 
-CodeplugLoadResult refused(const QString& path, FileProblem problem) {
-    CodeplugLoadResult result;
-    result.error = FileError{path, problem, QString()};
-    return result;
+Result<LoadedCodeplug> refused(const QString& path, ErrorKind kind) {
+    return Error::inFile(kind, path);
 }
 
-CodeplugLoadResult loaded(CodeplugLayout layout, std::optional<UiLanguage> savedLanguage) {
-    CodeplugLoadResult result;
-    result.layout = layout;
-    result.savedLanguage = savedLanguage;
-    return result;
+Result<LoadedCodeplug> loaded(CodeplugLayout layout, std::optional<UiLanguage> savedLanguage) {
+    return LoadedCodeplug{layout, savedLanguage};
 }
 
 }  // namespace
@@ -46,57 +41,64 @@ QString layoutName(CodeplugLayout layout) {
 }
 
 int CalFileLineCnt(const QByteArray& bytes) {
-    return static_cast<int>(splitLines(decodeFileText(bytes)).size());
+    return static_cast<int>(countLines(decodeFileText(bytes)));
 }
 
-CodeplugLoadResult loadCodeplugData(Codeplug& doc, const QByteArray& bytes, const QString& path) {
-    const QStringList lines = splitLines(decodeFileText(bytes));
-    switch (lines.size()) {
+Result<LoadedCodeplug> loadCodeplugData(Codeplug& doc, const QByteArray& bytes,
+                                        const QString& path) {
+    const QString text = decodeFileText(bytes);
+    // Only the old layouts, a few hundred lines at most, are split into a list of lines.
+    const qsizetype lineCount = countLines(text);
+    const auto lines = [&text] { return splitLines(text); };
+    switch (lineCount) {
         case kLinesV05:
-            ReadSaveFile_V05(doc, lines);
+            ReadSaveFile_V05(doc, lines());
             return loaded(CodeplugLayout::V05, std::nullopt);
         case kLinesUnread:
-            return refused(path, FileProblem::UnreadLayout);
+            return refused(path, ErrorKind::UnreadLayout);
         case kLinesV13:
-            return loaded(CodeplugLayout::V13, ReadSaveFile_V13(doc, lines));
+            return loaded(CodeplugLayout::V13, ReadSaveFile_V13(doc, lines()));
         case kLinesV16:
-            return loaded(CodeplugLayout::V16, ReadSaveFile_V16(doc, lines));
+            return loaded(CodeplugLayout::V16, ReadSaveFile_V16(doc, lines()));
         case kLinesV18:
-            return loaded(CodeplugLayout::V18, ReadSaveFile_V18(doc, lines));
+            return loaded(CodeplugLayout::V18, ReadSaveFile_V18(doc, lines()));
         default:
             break;
     }
-    const PrivateProfile profile(lines);
+    const PrivateProfile profile = PrivateProfile::fromText(text);
     // Reading a file with none of the sections would blank every cell of the plan.
-    if (!holdsCodeplugSection(profile)) return refused(path, FileProblem::NotACodeplug);
+    if (!holdsCodeplugSection(profile)) return refused(path, ErrorKind::NotACodeplug);
     ReadSaveFile(doc, profile);
     return loaded(CodeplugLayout::Current, std::nullopt);
 }
 
-CodeplugLoadResult openCodeplugFile(Codeplug& doc, const QString& path) {
-    auto content = readWholeFile(path);
-    if (auto* error = std::get_if<FileError>(&content)) {
-        CodeplugLoadResult result;
-        result.error = *error;
-        return result;
-    }
-    return loadCodeplugData(doc, std::get<QByteArray>(content), path);
+Result<LoadedCodeplug> openCodeplugFile(Codeplug& doc, const QString& path) {
+    const Result<QByteArray> content = readWholeFile(path);
+    if (!content) return content.error();
+    return loadCodeplugData(doc, *content, path);
 }
 
 QByteArray codeplugFileBytes(const Codeplug& doc) {
     PrivateProfile profile;
     writeCodeplugKeys(doc, profile);
-    return encodeFileText(joinLines(profile.lines()));
+    return encodeFileText(profile.text());
 }
 
-std::optional<FileError> WriteSaveFile(const Codeplug& doc, const QString& path, SaveMode mode) {
+Result<void> WriteSaveFile(const Codeplug& doc, const QString& path, SaveMode mode) {
     PrivateProfile profile;
-    if (mode == SaveMode::KeepOtherLines && QFileInfo::exists(path)) {
+    // Only a regular file has lines to keep; saveWholeFile refuses anything else of that name.
+    if (mode == SaveMode::KeepOtherLines && QFileInfo(path).isFile()) {
         // What cannot be read cannot be kept: refuse rather than lose the other lines.
-        auto content = readWholeFile(path);
-        if (auto* error = std::get_if<FileError>(&content)) return *error;
-        profile = PrivateProfile(splitLines(decodeFileText(std::get<QByteArray>(content))));
+        const Result<QByteArray> content = readWholeFile(path);
+        if (!content && content.error().kind == ErrorKind::TooLarge) {
+            return Error::inFile(ErrorKind::TooLargeToKeep, path);
+        }
+        if (!content) return content.error();
+        profile = PrivateProfile::fromText(decodeFileText(*content));
     }
     writeCodeplugKeys(doc, profile);
-    return saveWholeFile(path, encodeFileText(joinLines(profile.lines())));
+    const QByteArray bytes = encodeFileText(profile.text());
+    // A file this program would refuse to open again is not written.
+    if (bytes.size() > kMaxFileSize) return Error::inFile(ErrorKind::TooLargeToKeep, path);
+    return saveWholeFile(path, bytes);
 }

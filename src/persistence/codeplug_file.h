@@ -16,21 +16,20 @@ enum class CodeplugLayout { Current, V05, V13, V16, V18 };
 // "V18 (215 lines)" and the like, for people.
 QString layoutName(CodeplugLayout layout);
 
-struct CodeplugLoadResult {
-    std::optional<FileError> error;  // set: nothing was read and the document is as it was
+// What a load found. On an error nothing was read and the document is as it was.
+struct LoadedCodeplug {
     CodeplugLayout layout = CodeplugLayout::Current;
     // The language the old layouts record as having been active when they were saved. The
     // document keeps its own language; words of both languages are understood anyway.
     std::optional<UiLanguage> savedLanguage;
-
-    bool ok() const { return !error.has_value(); }
 };
 
 // Reads a file of any layout into `doc`. Afterwards the document's settings are the truth: the
 // views refresh every selector from them.
-CodeplugLoadResult openCodeplugFile(Codeplug& doc, const QString& path);
+Result<LoadedCodeplug> openCodeplugFile(Codeplug& doc, const QString& path);
 // The same, for a file's content already in memory; `path` only names it in an error.
-CodeplugLoadResult loadCodeplugData(Codeplug& doc, const QByteArray& bytes, const QString& path);
+Result<LoadedCodeplug> loadCodeplugData(Codeplug& doc, const QByteArray& bytes,
+                                        const QString& path);
 
 // Number of lines of a file's content (CR LF, LF or CR end a line).
 int CalFileLineCnt(const QByteArray& bytes);
@@ -41,8 +40,8 @@ enum class SaveMode {
 };
 
 // Writes every key of the current layout in one read-modify-write of the file.
-std::optional<FileError> WriteSaveFile(const Codeplug& doc, const QString& path,
-                                       SaveMode mode = SaveMode::KeepOtherLines);
+Result<void> WriteSaveFile(const Codeplug& doc, const QString& path,
+                           SaveMode mode = SaveMode::KeepOtherLines);
 
 // The current layout's keys and values, into `profile`, in their writing order.
 void writeCodeplugKeys(const Codeplug& doc, PrivateProfile& profile);
@@ -54,5 +53,6 @@ bool holdsCodeplugSection(const PrivateProfile& profile);
 // The current-layout reader; missing keys take their defaults.
 void ReadSaveFile(Codeplug& doc, const PrivateProfile& profile);
 
-// A channel count read from a file: above 25 it becomes "25", otherwise it stays as written.
+// A channel count read from a file is held to 1..25: "30" becomes "25", "-5" and "abc" become
+// "1"; a count inside the range stays as written.
 QString channelCountFromFile(const QString& text);

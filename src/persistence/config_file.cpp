@@ -34,9 +34,9 @@ const PresetGroup kPresetGroups[] = {
 };
 
 // The per-user folder may not exist yet on a first start.
-bool saveConfig(const QString& configPath, const PrivateProfile& profile) {
+Result<void> saveConfig(const QString& configPath, const PrivateProfile& profile) {
     QDir().mkpath(QFileInfo(configPath).absolutePath());
-    return !saveWholeFile(configPath, encodeFileText(joinLines(profile.lines())));
+    return saveWholeFile(configPath, encodeFileText(profile.text()));
 }
 
 QString presetKey(const char* stem, int slot) {
@@ -96,40 +96,40 @@ StartupConfig readConfigProfile(PrivateProfile& profile) {
 
 namespace {
 
-// The file's profile; nothing when it exists but cannot be read (then it must not be rewritten).
-std::optional<PrivateProfile> readProfile(const QString& configPath) {
+// The file's profile; the error when it exists but cannot be read (then it must not be
+// rewritten either).
+Result<PrivateProfile> readProfile(const QString& configPath) {
     if (!QFileInfo::exists(configPath)) return PrivateProfile();
-    auto content = readWholeFile(configPath);
-    if (auto* bytes = std::get_if<QByteArray>(&content))
-        return PrivateProfile(splitLines(decodeFileText(*bytes)));
-    return std::nullopt;
+    const Result<QByteArray> content = readWholeFile(configPath);
+    if (!content) return content.error();
+    return PrivateProfile::fromText(decodeFileText(*content));
 }
 
 }  // namespace
 
 StartupConfig ReadConfigFile(const QString& configPath, ConfigCompletion completion) {
-    const std::optional<PrivateProfile> read = readProfile(configPath);
-    const bool readable = read.has_value();
-    PrivateProfile profile = read.value_or(PrivateProfile());
-    const QStringList before = profile.lines();
-    const StartupConfig config = readConfigProfile(profile);
-    if (completion == ConfigCompletion::SaveMissingKeys && readable && profile.lines() != before) {
+    Result<PrivateProfile> read = readProfile(configPath);
+    PrivateProfile profile = read ? std::move(read.value()) : PrivateProfile();
+    StartupConfig config = readConfigProfile(profile);
+    if (!read) config.unreadable = read.error();
+    if (completion == ConfigCompletion::SaveMissingKeys && read && profile.changed()) {
         saveConfig(configPath, profile);
     }
     return config;
 }
 
 Codeplug loadStartupCodeplug(const QString& configPath, ConfigCompletion completion,
-                             std::optional<UiLanguage> language) {
+                             std::optional<UiLanguage> language, std::optional<Error>* unreadable) {
     StartupConfig config = ReadConfigFile(configPath, completion);
     if (language) config.language = *language;
+    if (unreadable) *unreadable = config.unreadable;
     return buildStartupCodeplug(config);
 }
 
 QMap<int, QString> readPortPins(const QString& configPath) {
     constexpr int kLastPortNumber = 64;
     QMap<int, QString> pins;
-    const std::optional<PrivateProfile> profile = readProfile(configPath);
+    const Result<PrivateProfile> profile = readProfile(configPath);
     if (!profile) return pins;
     for (int number = 0; number <= kLastPortNumber; ++number) {
         const std::optional<QString> device =
@@ -139,13 +139,16 @@ QMap<int, QString> readPortPins(const QString& configPath) {
     return pins;
 }
 
-bool WriteConfigFile(const QString& configPath, const QString& key, UiLanguage language) {
-    if (key.compare(kLang, Qt::CaseInsensitive) != 0) return false;
+Result<void> WriteConfigFile(const QString& configPath, const QString& key, UiLanguage language) {
+    if (key.compare(kLang, Qt::CaseInsensitive) != 0) {
+        return Error::inFile(ErrorKind::CannotWrite, configPath);
+    }
     PrivateProfile profile;
     if (QFileInfo::exists(configPath)) {
-        auto content = readWholeFile(configPath);
-        if (!std::holds_alternative<QByteArray>(content)) return false;
-        profile = PrivateProfile(splitLines(decodeFileText(std::get<QByteArray>(content))));
+        // A file that cannot be read is not replaced by one holding the language alone.
+        const Result<QByteArray> content = readWholeFile(configPath);
+        if (!content) return content.error();
+        profile = PrivateProfile::fromText(decodeFileText(*content));
     }
     profile.write(kConfigSection, kLang, configTextOf(language));
     return saveConfig(configPath, profile);

@@ -6,6 +6,7 @@
 
 #include "l10n/language.h"
 #include "model/codeplug.h"
+#include "model/result.h"
 #include "model/startup_config.h"
 #include "persistence/private_profile.h"
 
@@ -19,15 +20,18 @@ enum class ConfigCompletion {
 };
 
 // Reads, completes and returns the configuration. A file that cannot be read gives the
-// defaults, and one that exists but cannot be read is never overwritten.
+// defaults, and one that exists but cannot be read is never overwritten; `unreadable` of the
+// result then says why, for the one warning the user gets.
 StartupConfig ReadConfigFile(const QString& configPath,
                              ConfigCompletion completion = ConfigCompletion::SaveMissingKeys);
 
 // The program's start-up document: the configuration read, then the document built from it;
-// `language`, when given, replaces the configured one.
+// `language`, when given, replaces the configured one. `unreadable`, when given, receives the
+// reason a config.ini that exists could not be read.
 Codeplug loadStartupCodeplug(const QString& configPath,
                              ConfigCompletion completion = ConfigCompletion::SaveMissingKeys,
-                             std::optional<UiLanguage> language = std::nullopt);
+                             std::optional<UiLanguage> language = std::nullopt,
+                             std::optional<Error>* unreadable = nullptr);
 
 // The reading steps on a file already in memory: missing keys are written into `profile`.
 StartupConfig readConfigProfile(PrivateProfile& profile);
@@ -36,8 +40,8 @@ StartupConfig readConfigProfile(PrivateProfile& profile);
 QMap<int, QString> readPortPins(const QString& configPath);
 
 // Records the language after the user switched it. Only the key "Lang" is written; any other
-// key is ignored. Returns whether the file was saved.
-bool WriteConfigFile(const QString& configPath, const QString& key, UiLanguage language);
+// key is ignored and gives a CannotWrite error, as a file that cannot be read or saved does.
+Result<void> WriteConfigFile(const QString& configPath, const QString& key, UiLanguage language);
 
 // Where config.ini lives: `overrideDir` when given (--config), else the program's folder when it
 // is writable, else the per-user configuration folder.

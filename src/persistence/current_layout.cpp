@@ -29,28 +29,12 @@ const QString kConfig = QStringLiteral("Config");
 const QString kChtot = QStringLiteral("chtot");
 const QString kFreqstep = QStringLiteral("freqstep");
 
-// Config keys are written in this order, with chtot and freqstep between the two groups.
-const SettingKey kSettingsBeforeCounts[] = {
-    SettingKey::freqsel,   SettingKey::normalmode, SettingKey::txen,
-    SettingKey::busytxdis, SettingKey::dtmfen,     SettingKey::voicebrc,
-    SettingKey::sos,       SettingKey::bluetooth,  SettingKey::fm,
-};
-const SettingKey kSettingsAfterCounts[] = {
-    SettingKey::autolock,
-    SettingKey::freqband,
-    SettingKey::tot,
-    SettingKey::agingtest,
-};
+// The Config keys follow the settings' own order, with chtot and freqstep written before autolock.
+constexpr SettingKey kFirstSettingAfterCounts = SettingKey::autolock;
 
-// Every setting but normalmode, which is read first because it decides the code table.
-const SettingKey kSettingsReadAfterMode[] = {
-    SettingKey::freqsel,  SettingKey::txen,     SettingKey::busytxdis, SettingKey::dtmfen,
-    SettingKey::voicebrc, SettingKey::sos,      SettingKey::bluetooth, SettingKey::fm,
-    SettingKey::autolock, SettingKey::freqband, SettingKey::tot,       SettingKey::agingtest,
-};
-
-QString slotKey(const char* stem, int slot) {
-    return QLatin1String(stem) + QStringLiteral("%1").arg(slot, 2, 10, QLatin1Char('0'));
+QString slotKey(const char* stem, int slot) {  // two digits: rxfreq00 .. rxfreq24
+    return QLatin1String(stem) + QLatin1Char(static_cast<char>('0' + slot / 10)) +
+           QLatin1Char(static_cast<char>('0' + slot % 10));
 }
 
 }  // namespace
@@ -65,10 +49,13 @@ void writeCodeplugKeys(const Codeplug& doc, PrivateProfile& profile) {
     const auto writeSetting = [&](SettingKey key) {
         WritePrivateProfileInt(profile, kConfig, settingKeyName(key), doc.settings[key]);
     };
-    for (SettingKey key : kSettingsBeforeCounts) writeSetting(key);
-    profile.write(kConfig, kChtot, doc.chtot);
-    profile.write(kConfig, kFreqstep, doc.freqstep);
-    for (SettingKey key : kSettingsAfterCounts) writeSetting(key);
+    for (SettingKey key : kAllSettings) {
+        if (key == kFirstSettingAfterCounts) {
+            profile.write(kConfig, kChtot, doc.chtot);
+            profile.write(kConfig, kFreqstep, doc.freqstep);
+        }
+        writeSetting(key);
+    }
 }
 
 bool holdsCodeplugSection(const PrivateProfile& profile) {
@@ -84,7 +71,7 @@ void ReadSaveFile(Codeplug& doc, const PrivateProfile& profile) {
     // plan survives into slots the file leaves without one.
     doc.settings[SettingKey::normalmode] =
         profile.readInt(kConfig, settingKeyName(SettingKey::normalmode), 0);
-    rebuildCodeTables(doc);
+    resetCodeTables(doc);  // every cell is read below, then redrawn
 
     for (const ChannelSection& s : kChannelSections) {
         const QString section = QLatin1String(s.section);
@@ -92,7 +79,8 @@ void ReadSaveFile(Codeplug& doc, const PrivateProfile& profile) {
             doc.plan[slot].*s.field = profile.readString(section, slotKey(s.stem, slot), QString());
         }
     }
-    for (SettingKey key : kSettingsReadAfterMode) {
+    for (SettingKey key : kAllSettings) {
+        if (key == SettingKey::normalmode) continue;  // read above
         doc.settings[key] = profile.readInt(kConfig, settingKeyName(key), 0);
     }
     doc.chtot = channelCountFromFile(profile.readString(kConfig, kChtot, QStringLiteral("22")));
@@ -101,5 +89,7 @@ void ReadSaveFile(Codeplug& doc, const PrivateProfile& profile) {
 }
 
 QString channelCountFromFile(const QString& text) {
-    return numericValue(text) > kSlotCount ? QString::number(kSlotCount) : text;
+    const double count = numericValue(text);
+    if (count >= 1 && count <= kSlotCount) return text;
+    return QString::number(boundedInt(count, 1, kSlotCount));
 }

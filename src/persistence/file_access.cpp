@@ -5,59 +5,39 @@
 #include <QFileInfo>
 #include <QSaveFile>
 
-#include "l10n/program_texts.h"
-
-namespace {
-
-QString reasonText(FileProblem problem, UiLanguage language) {
-    using l10n::ProgramText;
-    switch (problem) {
-        case FileProblem::CannotOpen:
-            return l10n::programText(ProgramText::FileCannotOpen, language);
-        case FileProblem::TooLarge:
-            return l10n::programText(ProgramText::FileTooLarge, language);
-        case FileProblem::NotACodeplug:
-            return l10n::programText(ProgramText::FileNotCodeplug, language);
-        case FileProblem::UnreadLayout:
-            return l10n::programText(ProgramText::FileOld212Lines, language);
-        case FileProblem::CannotWrite:
-            return l10n::programText(ProgramText::FileCannotWrite, language);
-    }
-    return QString();
-}
-
-}  // namespace
-
-QString describeFileError(const FileError& error, UiLanguage language) {
-    QString text = QDir::toNativeSeparators(error.path) + QLatin1String(": ") +
-                   reasonText(error.problem, language);
-    if (!error.detail.isEmpty()) text += QLatin1String(" (") + error.detail + QLatin1Char(')');
-    return text;
-}
-
-std::variant<QByteArray, FileError> readWholeFile(const QString& path) {
+Result<QByteArray> readWholeFile(const QString& path) {
     const QFileInfo info(path);
-    if (info.isDir()) return FileError{path, FileProblem::CannotOpen, QStringLiteral("a folder")};
+    if (info.isDir()) return Error::inFile(ErrorKind::CannotOpen, path, QStringLiteral("a folder"));
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
-        return FileError{path, FileProblem::CannotOpen, file.errorString()};
+        return Error::inFile(ErrorKind::CannotOpen, path, file.errorString());
     }
     // Read one byte past the limit instead of trusting size(): pipes and devices report none.
     QByteArray bytes = file.read(kMaxFileSize + 1);
-    if (bytes.size() > kMaxFileSize) return FileError{path, FileProblem::TooLarge, QString()};
+    if (bytes.size() > kMaxFileSize) return Error::inFile(ErrorKind::TooLarge, path);
     if (file.error() != QFileDevice::NoError) {
-        return FileError{path, FileProblem::CannotOpen, file.errorString()};
+        return Error::inFile(ErrorKind::CannotOpen, path, file.errorString());
     }
     return bytes;
 }
 
-std::optional<FileError> saveWholeFile(const QString& path, const QByteArray& bytes) {
+Result<void> saveWholeFile(const QString& path, const QByteArray& bytes) {
+    // QSaveFile would rename a regular file over a device, FIFO or socket of that name.
+    const QFileInfo existing(path);
+    if (existing.exists() && !existing.isFile() && !existing.isDir()) {
+        return Error::inFile(ErrorKind::NotARegularFile, path);
+    }
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly)) {
-        return FileError{path, FileProblem::CannotWrite, file.errorString()};
+        return Error::inFile(ErrorKind::CannotWrite, path, file.errorString());
     }
-    if (file.write(bytes) != bytes.size() || !file.commit()) {
-        return FileError{path, FileProblem::CannotWrite, file.errorString()};
+    // The bytes sit in the device's buffer until the flush, and commit() does not look at how
+    // that went: on a full disk it would rename a short file over the old one.
+    if (file.write(bytes) != bytes.size() || !file.flush()) {
+        const QString reason = file.errorString();
+        file.cancelWriting();
+        return Error::inFile(ErrorKind::CannotWrite, path, reason);
     }
-    return std::nullopt;
+    if (!file.commit()) return Error::inFile(ErrorKind::CannotWrite, path, file.errorString());
+    return {};
 }

@@ -1,6 +1,6 @@
 #include "persistence/legacy_layouts.h"
 
-#include <initializer_list>
+#include <iterator>
 
 #include "model/editing.h"
 #include "persistence/codeplug_file.h"
@@ -30,6 +30,16 @@ void readBlocks(Codeplug& doc, LineReader& in, int blockCount) {
     }
 }
 
+// The settings lines of the old layouts, in file order. Each layout holds a first part of the
+// list: 3 (as option texts), 8, 9 or 10 settings.
+constexpr SettingKey kLineSettings[] = {
+    SettingKey::txen, SettingKey::busytxdis, SettingKey::dtmfen, SettingKey::voicebrc,
+    SettingKey::sos,  SettingKey::bluetooth, SettingKey::fm,     SettingKey::autolock,
+    SettingKey::tot,  SettingKey::agingtest,
+};
+constexpr int kSettingsV05 = 3, kSettingsV13 = 8, kSettingsV16 = 9, kSettingsV18 = 10;
+static_assert(std::size(kLineSettings) == kSettingsV18);
+
 // An option text as the oldest layout stored it, in either language: the first equal option of
 // the document's language, else of the other one, else the option count (as a selector whose
 // text matches no option gives).
@@ -50,16 +60,16 @@ UiLanguage savedLanguageFlag(const QString& text) {
     return chinese ? UiLanguage::Chinese : UiLanguage::English;
 }
 
-UiLanguage readNumberedLayout(Codeplug& doc, const QStringList& lines,
-                              std::initializer_list<SettingKey> settingsAfterStep) {
+UiLanguage readNumberedLayout(Codeplug& doc, const QStringList& lines, int settingCount) {
     LineReader in(lines);
     doc.settings[SettingKey::normalmode] = leadingInteger(in.next());
-    rebuildCodeTables(doc);
+    resetCodeTables(doc);  // every cell is read below, then redrawn
     readBlocks(doc, in, 6);
     doc.settings[SettingKey::freqsel] = leadingInteger(in.next());
     doc.chtot = channelCountFromFile(in.next());
     doc.freqstep = in.next();
-    for (SettingKey key : settingsAfterStep) doc.settings[key] = leadingInteger(in.next());
+    for (int i = 0; i < settingCount; ++i)
+        doc.settings[kLineSettings[i]] = leadingInteger(in.next());
     const UiLanguage saved = savedLanguageFlag(in.next());
     for (int slot = 0; slot < kSlotCount; ++slot) doc.plan[slot].rxctcfreq = in.next();
     for (int slot = 0; slot < kSlotCount; ++slot) doc.plan[slot].txctcfreq = in.next();
@@ -76,30 +86,21 @@ void ReadSaveFile_V05(Codeplug& doc, const QStringList& lines) {
     doc.settings[SettingKey::freqsel] = optionIndex(SettingKey::freqsel, in.next(), doc.language);
     doc.chtot = channelCountFromFile(in.next());
     doc.freqstep = in.next();
-    for (SettingKey key : {SettingKey::txen, SettingKey::busytxdis, SettingKey::dtmfen}) {
+    for (int i = 0; i < kSettingsV05; ++i) {
+        const SettingKey key = kLineSettings[i];
         doc.settings[key] = optionIndex(key, in.next(), doc.language);
     }
     RESET_TEXT(doc);
 }
 
 UiLanguage ReadSaveFile_V13(Codeplug& doc, const QStringList& lines) {
-    return readNumberedLayout(
-        doc, lines,
-        {SettingKey::txen, SettingKey::busytxdis, SettingKey::dtmfen, SettingKey::voicebrc,
-         SettingKey::sos, SettingKey::bluetooth, SettingKey::fm, SettingKey::autolock});
+    return readNumberedLayout(doc, lines, kSettingsV13);
 }
 
 UiLanguage ReadSaveFile_V16(Codeplug& doc, const QStringList& lines) {
-    return readNumberedLayout(doc, lines,
-                              {SettingKey::txen, SettingKey::busytxdis, SettingKey::dtmfen,
-                               SettingKey::voicebrc, SettingKey::sos, SettingKey::bluetooth,
-                               SettingKey::fm, SettingKey::autolock, SettingKey::tot});
+    return readNumberedLayout(doc, lines, kSettingsV16);
 }
 
 UiLanguage ReadSaveFile_V18(Codeplug& doc, const QStringList& lines) {
-    return readNumberedLayout(
-        doc, lines,
-        {SettingKey::txen, SettingKey::busytxdis, SettingKey::dtmfen, SettingKey::voicebrc,
-         SettingKey::sos, SettingKey::bluetooth, SettingKey::fm, SettingKey::autolock,
-         SettingKey::tot, SettingKey::agingtest});
+    return readNumberedLayout(doc, lines, kSettingsV18);
 }

@@ -38,6 +38,20 @@ QStringList splitLines(const QString& text) {
     return lines;
 }
 
+qsizetype countLines(const QString& text) {
+    qsizetype count = 0;
+    const qsizetype size = text.size();
+    qsizetype start = 0;
+    for (qsizetype i = 0; i < size; ++i) {
+        const QChar c = text[i];
+        if (c != QLatin1Char('\r') && c != QLatin1Char('\n')) continue;
+        ++count;
+        if (c == QLatin1Char('\r') && i + 1 < size && text[i + 1] == QLatin1Char('\n')) ++i;
+        start = i + 1;
+    }
+    return start < size ? count + 1 : count;
+}
+
 QString joinLines(const QStringList& lines) {
     QString text;
     for (const QString& line : lines) text += line + QLatin1String("\r\n");

@@ -16,5 +16,8 @@ QByteArray encodeFileText(const QString& text);
 // counts, an empty text has no line.
 QStringList splitLines(const QString& text);
 
+// How many lines splitLines() would give, without making them.
+qsizetype countLines(const QString& text);
+
 // The reverse: every line followed by CR LF.
 QString joinLines(const QStringList& lines);

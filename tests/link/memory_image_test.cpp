@@ -1,6 +1,7 @@
+#include "link/memory_image.h"
+
 #include <gtest/gtest.h>
 
-#include "link/memory_image.h"
 #include "model/code_tables.h"
 #include "model/editing.h"
 
@@ -22,15 +23,24 @@ Codeplug startup(int normalmode = 0, UiLanguage lang = UiLanguage::Chinese) {
     return doc;
 }
 
-QByteArray record(const std::variant<QByteArray, EncodeError>& frame) {
-    EXPECT_TRUE(std::holds_alternative<QByteArray>(frame));
-    const QByteArray f = std::get<QByteArray>(frame);
+QByteArray record(const Result<QByteArray>& frame) {
+    EXPECT_TRUE(frame.ok());
+    const QByteArray f = frame.ok() ? *frame : QByteArray();
     return f.mid(4, f.size() - 5);  // without command, length, block, sub and checksum
 }
 
 TEST(SettingsImage, DefaultSettingsEncodeAsTheKnownFrame) {
     const Codeplug doc = startup();
     EXPECT_EQ(encode_settings(doc), bytes({0x58, 0x06, 0x00, 0x00, 0x13, 0x00, 0x16, 0x00, 0x87}));
+}
+
+TEST(SettingsImage, AChannelCountIsHeldToOneByte) {
+    for (const auto& [chtot, s2] :
+         {std::pair{"-1e300", 0}, {"-5", 0}, {"1e300", 255}, {"300", 255}}) {
+        Codeplug doc = startup();
+        doc.chtot = chtot;
+        EXPECT_EQ(static_cast<quint8>(encode_settings(doc)[6]), s2) << chtot;
+    }
 }
 
 TEST(SettingsImage, EachSettingHasItsBit) {
@@ -61,7 +71,8 @@ TEST(SettingsImage, EachSettingHasItsBit) {
         ASSERT_TRUE(decode_settings(decoded, reply));
         for (SettingKey key : kAllSettings) {
             if (key == SettingKey::freqsel || key == SettingKey::freqband) continue;
-            EXPECT_EQ(decoded.settings[key], key == bit.key ? 1 : 0) << settingKeyName(key).toStdString();
+            EXPECT_EQ(decoded.settings[key], key == bit.key ? 1 : 0)
+                << settingKeyName(key).toStdString();
         }
     }
 }
@@ -91,8 +102,8 @@ TEST(ChannelImage, FirstChannelFrame) {
     const auto frame = std::get<QByteArray>(encode_channel(doc, 0));
     // 446.00625 on the 6.25 kHz raster: 7361 steps; code "67.0" is position 1; narrow, high;
     // the custom tones default to 67.0 Hz = 670 tenths.
-    EXPECT_EQ(frame, bytes({0x57, 0x0D, 0x00, 0x00, 0x1C, 0xC1, 0x1C, 0xC1, 0x01, 0x01, 0x23,
-                            0x02, 0x9E, 0x02, 0x9E, 0x83}));
+    EXPECT_EQ(frame, bytes({0x57, 0x0D, 0x00, 0x00, 0x1C, 0xC1, 0x1C, 0xC1, 0x01, 0x01, 0x23, 0x02,
+                            0x9E, 0x02, 0x9E, 0x83}));
 }
 
 TEST(ChannelImage, FrequencyStepsAndRounding) {
@@ -104,8 +115,9 @@ TEST(ChannelImage, FrequencyStepsAndRounding) {
 
     doc.plan[2].rxfreq = "399.00000";  // below the band: no step count
     const auto result = encode_channel(doc, 2);
-    ASSERT_TRUE(std::holds_alternative<EncodeError>(result));
-    EXPECT_EQ(std::get<EncodeError>(result).slot, 2);
+    ASSERT_FALSE(result.ok());
+    EXPECT_EQ(result.error().channel, 3);
+    EXPECT_EQ(result.error().field, "rxfreq");
 }
 
 TEST(ChannelImage, ProfessionalCodesAndFlags) {
@@ -144,10 +156,11 @@ TEST(ChannelImage, ProfessionalCodesAndFlags) {
 
 TEST(ChannelImage, DecodeRecords) {
     Codeplug doc = startup(1, UiLanguage::English);
-    // 7361 steps of 6.25 kHz receive, 9201 of 5 kHz transmit, codes 56 with both inversion flags, wide, high power,
-    // receive tone 885 tenths, transmit 670.
-    ASSERT_TRUE(decode_channel(doc, 3, bytes({0x1C, 0xC1, 0x23, 0xF1, 56, 56, 0x01 | 0x04 | 0x08 | 0x10 | 0x20,
-                                              0x03, 0x75, 0x02, 0x9E})));
+    // 7361 steps of 6.25 kHz receive, 9201 of 5 kHz transmit, codes 56 with both inversion flags,
+    // wide, high power, receive tone 885 tenths, transmit 670.
+    ASSERT_TRUE(decode_channel(doc, 3,
+                               bytes({0x1C, 0xC1, 0x23, 0xF1, 56, 56,
+                                      0x01 | 0x04 | 0x08 | 0x10 | 0x20, 0x03, 0x75, 0x02, 0x9E})));
     const ChannelRecord& ch = doc.plan[3];
     EXPECT_EQ(ch.rxfreq, "446.00625");
     EXPECT_EQ(ch.txfreq, "446.00500");  // 9201 steps of 5 kHz: no transmit 6.25 flag
@@ -159,7 +172,8 @@ TEST(ChannelImage, DecodeRecords) {
     EXPECT_EQ(ch.txctcfreq, "67");
 
     // Code byte 162 with the receive flag is the custom DCS, and may come as 13 bytes.
-    ASSERT_TRUE(decode_channel(doc, 4, bytes({0, 0, 0, 0, 162, 0, 0x08, 0x23, 0x45, 0, 0, 0x01, 0})));
+    ASSERT_TRUE(
+        decode_channel(doc, 4, bytes({0, 0, 0, 0, 162, 0, 0x08, 0x23, 0x45, 0, 0, 0x01, 0})));
     EXPECT_EQ(doc.plan[4].rxctc, "CDCSS");
     EXPECT_EQ(doc.plan[4].rxcdc, "74565");
     EXPECT_EQ(doc.plan[4].rxfreq, "400.00000");
@@ -169,10 +183,9 @@ TEST(ChannelImage, DecodeRecords) {
 
 TEST(ChannelImage, RepliesThatLeaveTheSlotUnchanged) {
     const QByteArray replies[] = {
-        QByteArray(),
-        bytes({0x1C, 0xC1, 0x1C, 0xC1, 1, 1, 0}),                     // too short
+        QByteArray(), bytes({0x1C, 0xC1, 0x1C, 0xC1, 1, 1, 0}),            // too short
         bytes({0x1C, 0xC1, 0x1C, 0xC1, 1, 1, 0, 2, 0x9E, 2, 0x9E, 0, 0}),  // 13 bytes, no CDCSS
-        bytes({0x80, 0x00, 0x1C, 0xC1, 1, 1, 0, 2, 0x9E, 2, 0x9E}),   // step count over 15 bits
+        bytes({0x80, 0x00, 0x1C, 0xC1, 1, 1, 0, 2, 0x9E, 2, 0x9E}),  // step count over 15 bits
     };
     for (const QByteArray& reply : replies) {
         Codeplug doc = startup();
@@ -186,10 +199,46 @@ TEST(ChannelImage, OutOfBandReplyGoesThroughTheEntryRule) {
     Codeplug doc = startup();
     Notices notices;
     // 17000 steps of 6.25 kHz = 506.25 MHz: outside band 0.
-    ASSERT_TRUE(decode_channel(doc, 0, bytes({0x42, 0x68, 0x1C, 0xC1, 1, 1, 3, 2, 0x9E, 2, 0x9E}), &notices));
+    ASSERT_TRUE(decode_channel(doc, 0, bytes({0x42, 0x68, 0x1C, 0xC1, 1, 1, 3, 2, 0x9E, 2, 0x9E}),
+                               &notices));
     EXPECT_EQ(doc.plan[0].rxfreq, "400");
     EXPECT_EQ(doc.plan[0].txfreq, "446.00625");
     EXPECT_EQ(notices.size(), 2u);
+}
+
+TEST(ChannelImage, CustomTonesRoundToTenthsAndValuesThatDoNotFitNameTheirField) {
+    const struct {
+        QString ChannelRecord::*field;
+        const char* value;
+        const char* rxctc;  // "CDCSS" sends the DCS value instead of the tone
+        int word;           // receive custom word sent; -1: refused
+        const char* refusedField;
+    } cases[] = {
+        {&ChannelRecord::rxctcfreq, "88.56", "OFF", 886, nullptr},  // rounded, not cut to 885
+        {&ChannelRecord::rxctcfreq, "88.54", "OFF", 885, nullptr},
+        {&ChannelRecord::rxctcfreq, "6553.5", "OFF", 0xFFFF, nullptr},
+        {&ChannelRecord::rxctcfreq, "6553.6", "OFF", -1, "rxctcfreq"},
+        {&ChannelRecord::txctcfreq, "-1", "OFF", -1, "txctcfreq"},
+        {&ChannelRecord::rxcdc, "16777216", "CDCSS", -1, "rxcdc"},
+        {&ChannelRecord::rxfreq, "1e300", "OFF", -1, "rxfreq"},
+        {&ChannelRecord::txfreq, "399.99", "OFF", -1, "txfreq"},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.value);
+        Codeplug doc = startup(1);
+        doc.plan[4].*c.field = c.value;
+        doc.plan[4].rxctc = c.rxctc;
+        const Result<QByteArray> frame = encode_channel(doc, 4);
+        if (c.word < 0) {
+            ASSERT_FALSE(frame.ok());
+            EXPECT_EQ(frame.error().channel, 5);
+            EXPECT_EQ(frame.error().field, c.refusedField);
+            EXPECT_EQ(frame.error().detail, c.value);
+            continue;
+        }
+        const QByteArray r = record(frame);
+        EXPECT_EQ(static_cast<quint8>(r[7]) * 256 + static_cast<quint8>(r[8]), c.word);
+    }
 }
 
 TEST(ChannelImage, EncodeThenDecodeGivesTheSameChannel) {

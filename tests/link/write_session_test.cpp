@@ -106,7 +106,7 @@ TEST_F(WriteSessionTest, EachFrequencyCheckRefusesTheWriteBeforeAnythingIsSent) 
         {"transmit frequency that cannot be encoded", 3, &ChannelRecord::txfreq, "300.00000",
          "Num4Channl Frequency Input error，Please edit again"},
         {"custom tone that does not fit its bytes", 5, &ChannelRecord::rxctcfreq, "7000",
-         "Num6Channl Frequency Input error，Please edit again"},
+         "Num6Channel Custom Tone Input error，Please edit again"},
     };
     for (const auto& c : cases) {
         SessionFixture world;

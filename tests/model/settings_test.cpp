@@ -1,6 +1,6 @@
-#include <gtest/gtest.h>
-
 #include "model/settings.h"
+
+#include <gtest/gtest.h>
 
 namespace {
 
@@ -23,8 +23,10 @@ TEST(Settings, OptionListsInBothLanguages) {
          {"0:400--470M", "1:300--400M", "2:200--300M", "3:100--200M"}},
     };
     for (const auto& c : cases) {
-        EXPECT_EQ(settingOptions(c.key, UiLanguage::Chinese), c.chinese) << settingKeyName(c.key).toStdString();
-        EXPECT_EQ(settingOptions(c.key, UiLanguage::English), c.english) << settingKeyName(c.key).toStdString();
+        EXPECT_EQ(settingOptions(c.key, UiLanguage::Chinese), c.chinese)
+            << settingKeyName(c.key).toStdString();
+        EXPECT_EQ(settingOptions(c.key, UiLanguage::English), c.english)
+            << settingKeyName(c.key).toStdString();
     }
 }
 
@@ -44,20 +46,11 @@ TEST(Settings, UnknownTextBecomesTheOptionCount) {
     takeOverSelectorText(settings, SettingKey::freqsel, "5:Mars", UiLanguage::English);
     EXPECT_EQ(settings[SettingKey::freqsel], 4);
     // A Chinese option text is unknown to the English list.
-    takeOverSelectorText(settings, SettingKey::txen, QString::fromUtf8("禁止"), UiLanguage::English);
+    takeOverSelectorText(settings, SettingKey::txen, QString::fromUtf8("禁止"),
+                         UiLanguage::English);
     EXPECT_EQ(settings[SettingKey::txen], 2);
     takeOverSelectorText(settings, SettingKey::agingtest, "Enable", UiLanguage::English);
     EXPECT_EQ(settings[SettingKey::agingtest], 1);
-}
-
-TEST(Settings, SelectorNamesAndWriteOrder) {
-    EXPECT_STREQ(selectorOf(SettingKey::freqsel).checkProcedure, "chk_range");
-    EXPECT_STREQ(selectorOf(SettingKey::autolock).objectName, "Combo14");
-    EXPECT_STREQ(selectorOf(SettingKey::agingtest).checkProcedure, "chk_Combo17");
-    EXPECT_EQ(kSettingsCheckedBeforeWrite.front(), SettingKey::normalmode);
-    EXPECT_EQ(kSettingsCheckedBeforeWrite.back(), SettingKey::agingtest);
-    EXPECT_EQ(channelCountOptions().size(), 25);
-    EXPECT_EQ(frequencyStepOptions().last(), "900");
 }
 
 }  // namespace

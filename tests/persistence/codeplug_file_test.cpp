@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QTemporaryDir>
 
+#include "l10n/error_texts.h"
 #include "model/code_tables.h"
 #include "model/editing.h"
 #include "persistence/file_access.h"
@@ -55,21 +56,21 @@ TEST(CodeplugFile, RoundTripKeepsThePlanAndTheBytes) {
     const QString first = dir.filePath("first.qzv");
     const QString second = dir.filePath("second.qzv");
     const Codeplug saved = variedPlan();
-    ASSERT_FALSE(WriteSaveFile(saved, first));
+    ASSERT_TRUE(WriteSaveFile(saved, first).ok());
 
     Codeplug loaded = startupDoc(UiLanguage::English);
-    const CodeplugLoadResult result = openCodeplugFile(loaded, first);
+    const Result<LoadedCodeplug> result = openCodeplugFile(loaded, first);
     ASSERT_TRUE(result.ok());
-    EXPECT_EQ(result.layout, CodeplugLayout::Current);
+    EXPECT_EQ(result->layout, CodeplugLayout::Current);
     expectSameCodeplug(saved, loaded);
     // All 25 slots come back, only the first chtot of them editable.
     EXPECT_EQ(loaded.plan[24].rxfreq, QStringLiteral("462.86250"));
     EXPECT_EQ(RESET_Ch_Sel(loaded)[9], true);
     EXPECT_EQ(RESET_Ch_Sel(loaded)[10], false);
 
-    ASSERT_FALSE(WriteSaveFile(loaded, second));
+    ASSERT_TRUE(WriteSaveFile(loaded, second).ok());
     EXPECT_EQ(fileBytes(first), fileBytes(second));
-    ASSERT_FALSE(WriteSaveFile(loaded, first));  // over itself
+    ASSERT_TRUE(WriteSaveFile(loaded, first).ok());  // over itself
     EXPECT_EQ(fileBytes(first), fileBytes(second));
 }
 
@@ -109,7 +110,7 @@ TEST(CodeplugFile, SavingOverAFileKeepsEverythingElseInIt) {
     Codeplug doc = startupDoc();
     ASSERT_TRUE(openCodeplugFile(doc, path).ok());
     doc.plan[2].txfreq = QStringLiteral("462.00000");
-    ASSERT_FALSE(WriteSaveFile(doc, path));
+    ASSERT_TRUE(WriteSaveFile(doc, path).ok());
 
     const QStringList before = splitLines(decodeFileText(original));
     const QStringList after = splitLines(decodeFileText(fileBytes(path)));
@@ -134,6 +135,10 @@ TEST(CodeplugFile, MissingKeysTakeTheirDefaults) {
         {"[Config]\r\nchtot=30\r\n", "25", "100"},
         {"[config]\r\nCHTOT=25\r\nfreqstep=300\r\n", "25", "300"},
         {"[Config]\r\nchtot=10\r\n", "10", "100"},
+        {"[Config]\r\nchtot=-5\r\n", "1", "100"},  // would send 251 channels
+        {"[Config]\r\nchtot=-1e300\r\n", "1", "100"},
+        {"[Config]\r\nchtot=1e300\r\n", "25", "100"},
+        {"[Config]\r\nchtot=0\r\n", "1", "100"},
         {"[Rxfreq]\r\nrxfreq00=462.56250\r\n", "22", "100"},
         {"[Config]\r\nchtot=\r\nfreqstep=\r\n", "22", "100"},
     };
@@ -158,7 +163,7 @@ TEST(CodeplugFile, ModeIsReadFirstAndNoStaleCodeSurvives) {
         "[TxCtcFreq]\r\ntxctcfreq00=88.5\r\n[Config]\r\nnormalmode=1\r\n";
     ASSERT_TRUE(loadCodeplugData(doc, file, "pro.qzv").ok());
     EXPECT_EQ(doc.codeTable.size(), kProfessionalCodeCount);
-    EXPECT_EQ(codeNumber(doc.codeTable, doc.plan[0].rxctc), 161);
+    EXPECT_EQ(OptionIndexLookup(doc.codeTable, doc.plan[0].rxctc), 161);
     EXPECT_EQ(doc.plan[0].txctc, QStringLiteral("自定义"));
     EXPECT_EQ(doc.plan[0].txCodeToolTip, QStringLiteral("88.5"));
     EXPECT_EQ(doc.plan[1].rxctc, QString());  // not "67.0" from before
@@ -177,22 +182,22 @@ TEST(CodeplugFile, RefusesWhatItCannotReadAndLeavesThePlanAlone) {
 
     const struct {
         QString path;
-        FileProblem problem;
+        ErrorKind kind;
     } cases[] = {
-        {dir.filePath("missing.qzv"), FileProblem::CannotOpen},
-        {dir.path(), FileProblem::CannotOpen},
-        {tooLarge, FileProblem::TooLarge},
-        {empty, FileProblem::NotACodeplug},
-        {prose, FileProblem::NotACodeplug},
-        {twoHundredTwelve, FileProblem::UnreadLayout},
+        {dir.filePath("missing.qzv"), ErrorKind::CannotOpen},
+        {dir.path(), ErrorKind::CannotOpen},
+        {tooLarge, ErrorKind::TooLarge},
+        {empty, ErrorKind::NotACodeplug},
+        {prose, ErrorKind::NotACodeplug},
+        {twoHundredTwelve, ErrorKind::UnreadLayout},
     };
     const Codeplug before = variedPlan();
     for (const auto& c : cases) {
         Codeplug doc = before;
-        const CodeplugLoadResult result = openCodeplugFile(doc, c.path);
+        const Result<LoadedCodeplug> result = openCodeplugFile(doc, c.path);
         ASSERT_FALSE(result.ok()) << c.path.toStdString();
-        EXPECT_EQ(result.error->problem, c.problem) << c.path.toStdString();
-        EXPECT_TRUE(describeFileError(*result.error, UiLanguage::English)
+        EXPECT_EQ(result.error().kind, c.kind) << c.path.toStdString();
+        EXPECT_TRUE(l10n::describeError(result.error(), UiLanguage::English)
                         .startsWith(QDir::toNativeSeparators(c.path)));
         EXPECT_EQ(codeplugFileBytes(doc), codeplugFileBytes(before)) << c.path.toStdString();
     }

@@ -2,27 +2,31 @@
 // folder goes through both readers and must keep their promises.
 #include <gtest/gtest.h>
 
-#include <QDir>
-#include <QFile>
+#include <vector>
 
 #include "reader_properties.h"
+#include "regression_inputs.h"
 
 namespace {
 
 TEST(FuzzRegressions, EveryInputKeepsTheReadersPromises) {
-    const QDir folder(QStringLiteral(PERSISTENCE_FUZZ_REGRESSIONS_DIR));
-    const QStringList names = folder.entryList(QDir::Files);
-    ASSERT_FALSE(names.isEmpty());
-    for (const QString& name : names) {
-        QFile file(folder.filePath(name));
-        ASSERT_TRUE(file.open(QIODevice::ReadOnly)) << name.toStdString();
-        const QByteArray bytes = file.readAll();
+    const auto inputs = regressionInputs(QStringLiteral(PERSISTENCE_FUZZ_REGRESSIONS_DIR));
+    ASSERT_FALSE(inputs.isEmpty());
+    for (auto it = inputs.cbegin(); it != inputs.cend(); ++it) {
+        const QString& name = it.key();
+        const QByteArray& bytes = it.value();
+        using namespace reader_properties;
+        std::vector<const char*> broken = {checkConfigReader(bytes), checkConfigParse(bytes)};
         for (int variant : {0, 1}) {
-            const char* broken = reader_properties::checkCodeplugReader(bytes, variant);
-            EXPECT_EQ(broken, nullptr) << name.toStdString() << ": " << broken;
+            broken.push_back(checkCodeplugReader(bytes, variant));
+            broken.push_back(checkCodeplugParse(bytes, variant));
         }
-        const char* broken = reader_properties::checkConfigReader(bytes);
-        EXPECT_EQ(broken, nullptr) << name.toStdString() << ": " << broken;
+        for (int selector = 0; selector < 8; ++selector) {
+            broken.push_back(checkLegacyLayouts(bytes, selector));
+        }
+        for (const char* promise : broken) {
+            EXPECT_EQ(promise, nullptr) << name.toStdString() << ": " << promise;
+        }
     }
 }
 

@@ -73,10 +73,10 @@ TEST(LegacyLayouts, ReadTheSamplesInEveryEncoding) {
         for (const QByteArray& bytes : encodingsOf(readSample(e.sample))) {
             Codeplug doc = startupDoc();
             doc.settings[SettingKey::agingtest] = 1;
-            const CodeplugLoadResult result = loadCodeplugData(doc, bytes, e.sample);
+            const Result<LoadedCodeplug> result = loadCodeplugData(doc, bytes, e.sample);
             ASSERT_TRUE(result.ok());
-            EXPECT_EQ(result.layout, e.layout);
-            EXPECT_EQ(result.savedLanguage, e.savedLanguage);
+            EXPECT_EQ(result->layout, e.layout);
+            EXPECT_EQ(result->savedLanguage, e.savedLanguage);
             EXPECT_EQ(doc.language, UiLanguage::Chinese);  // the flag never switches it
             for (int i = 0; i < kSettingCount; ++i) {
                 EXPECT_EQ(doc.settings[kAllSettings[i]], e.settings[i])
@@ -146,9 +146,9 @@ TEST(LegacyLayouts, NumbersThatAreNotNumbersReadAsZero) {
     lines[164] = QStringLiteral("false");
     Codeplug doc = startupDoc();
     doc.settings[SettingKey::agingtest] = 1;
-    const CodeplugLoadResult result = loadCodeplugData(doc, joinLines(lines).toUtf8(), "x");
+    const Result<LoadedCodeplug> result = loadCodeplugData(doc, joinLines(lines).toUtf8(), "x");
     ASSERT_TRUE(result.ok());
-    EXPECT_EQ(result.savedLanguage, UiLanguage::English);
+    EXPECT_EQ(result->savedLanguage, UiLanguage::English);
     EXPECT_EQ(doc.settings[SettingKey::normalmode], 0);
     EXPECT_EQ(doc.settings[SettingKey::freqsel], 2);
     EXPECT_EQ(doc.chtot, QStringLiteral("25"));

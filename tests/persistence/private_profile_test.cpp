@@ -114,11 +114,29 @@ TEST(PrivateProfileWrite, ChangesOnlyTheLineItMust) {
         {"keeps a value on one line", "Config", "chtot", "a\r\nb", with(2, "chtot=a  b", false)},
     };
     for (const Case& c : cases) {
-        PrivateProfile profile(original);
-        profile.write(QString::fromUtf8(c.section), QString::fromUtf8(c.key),
-                      QString::fromUtf8(c.value));
-        EXPECT_EQ(profile.lines(), c.expected) << c.name;
+        // From a list of lines and from a file's text alike, and written twice over.
+        for (PrivateProfile profile :
+             {PrivateProfile(original), PrivateProfile::fromText(joinLines(original))}) {
+            EXPECT_FALSE(profile.changed());
+            for (int time = 0; time < 2; ++time) {
+                profile.write(QString::fromUtf8(c.section), QString::fromUtf8(c.key),
+                              QString::fromUtf8(c.value));
+            }
+            EXPECT_TRUE(profile.changed());
+            EXPECT_EQ(profile.lines(), c.expected) << c.name;
+            EXPECT_EQ(profile.text(), joinLines(c.expected)) << c.name;
+        }
     }
+}
+
+TEST(PrivateProfileWrite, ThreeKeysIntoASectionKeepItsBlankTailAndOrder) {
+    PrivateProfile profile = PrivateProfile::fromText("[freq]\r\n\r\n\r\n[next]\r\nk=v\r\n");
+    for (const char* key : {"freq0", "freq1", "freq0"}) profile.write("FREQ", key, key);
+    profile.write("freq", "freq2", "x");
+    EXPECT_EQ(profile.lines(), (QStringList{"[freq]", "freq0=freq0", "freq1=freq1", "freq2=x", "",
+                                            "", "[next]", "k=v"}));
+    profile.write("next", "k", "v");  // the same line again changes nothing
+    EXPECT_EQ(profile.readString("NEXT", "K", {}), "v");
 }
 
 }  // namespace

@@ -19,6 +19,15 @@ TEST(TextEncoding, ReadsUtf8WithOrWithoutMarkAndGbkOtherwise) {
     EXPECT_EQ(decodeFileText(QByteArray("plain ascii")), QStringLiteral("plain ascii"));
 }
 
+TEST(TextEncoding, AByteOrderMarkMeansUtf8EvenWhenBytesAfterItAreNot) {
+    // Read as GBK, the UTF-8 words would turn into other characters; the mark says UTF-8.
+    const QByteArray bytes = QByteArray("\xEF\xBB\xBF") + kWords.toUtf8() + "bad=\xFF\xFE\r\n";
+    const QString text = decodeFileText(bytes);
+    EXPECT_TRUE(text.startsWith(kWords)) << text.toStdString();
+    EXPECT_TRUE(text.contains(QChar::ReplacementCharacter));
+    EXPECT_FALSE(text.startsWith(QChar(0xFEFF)));
+}
+
 TEST(TextEncoding, KeepsCharactersGbkLacks) {
     const QString text = QStringLiteral("€ 😀 ñ");
     EXPECT_EQ(decodeFileText(encodeFileText(text)), text);

@@ -14,6 +14,7 @@
 #include <QVBoxLayout>
 
 #include "bootloader/boot_frames.h"
+#include "l10n/error_texts.h"
 #include "l10n/window_texts.h"
 #include "persistence/file_access.h"
 #include "platform/window_prompts.h"
@@ -141,12 +142,12 @@ void BootLoaderWindow::run(BootSession::Operation operation) {
     if (operation == BootSession::Operation::Write) {
         job.imagePath = imageBox_->currentText();
         if (!job.imagePath.isEmpty()) {
-            auto image = readWholeFile(job.imagePath);
-            if (auto* error = std::get_if<FileError>(&image)) {
-                appendLog(describeFileError(*error, language_));
+            const Result<QByteArray> image = readWholeFile(job.imagePath);
+            if (!image) {
+                appendLog(l10n::describeError(image.error(), language_));
                 return;
             }
-            job.image = std::get<QByteArray>(image);
+            job.image = image.value();
         }
     }
     running_ = operation;
@@ -163,8 +164,8 @@ void BootLoaderWindow::finished(BootSession::Outcome outcome) {
     if (outputBox_->currentText().isEmpty()) chooseOutput();
     const QString path = outputBox_->currentText();
     if (path.isEmpty()) return;
-    if (const auto error = saveWholeFile(path, session_.data())) {
-        appendLog(describeFileError(*error, language_));
+    if (const Result<void> saved = saveWholeFile(path, session_.data()); !saved) {
+        appendLog(l10n::describeError(saved.error(), language_));
     }
 }
 

@@ -4,24 +4,11 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
+#include "cli_run.h"
 #include "persistence/config_file.h"
 #include "test_support.h"
 
 namespace {
-
-struct CliRun {
-    int status = -1;
-    QString out;
-    QString err;
-};
-
-CliRun cli(const QStringList& arguments) {
-    QProcess process;
-    process.start(QStringLiteral(RADIOPROG_CLI), arguments);
-    process.waitForFinished(30000);
-    return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
-            QString::fromUtf8(process.readAllStandardError())};
-}
 
 class CliTest : public ::testing::Test {
 protected:
@@ -85,7 +72,7 @@ TEST_F(CliTest, ConvertWritesTheCurrentLayout) {
     EXPECT_EQ(unreadable.status, 2);
     const CliRun unwritable =
         cli(config_ + QStringList{"convert", samplePath("v18.qzv"), dir_.filePath("no/x.qzv")});
-    EXPECT_EQ(unwritable.status, 1);
+    EXPECT_EQ(unwritable.status, 3);
     EXPECT_FALSE(unwritable.err.isEmpty());
 }
 

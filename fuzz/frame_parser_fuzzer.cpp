@@ -1,0 +1,8 @@
+// Any bytes arriving on the serial line.
+#include "fuzz_input.h"
+#include "link_properties.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
+    fuzz_input::keep(link_properties::checkFrameParser(fuzz_input::bytesOf(data, size)));
+    return 0;
+}
