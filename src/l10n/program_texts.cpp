@@ -24,9 +24,11 @@ const TextPair kProgramTexts[] = {
     {"配置文件无法读取，使用默认设置：%1", "configuration not read, the defaults apply: %1"},
     {"信道自定义亚音输入错误，请重新输入", "Channel Custom Tone Input error，Please edit again"},
     {"信道自定义数字码输入错误，请重新输入", "Channel Custom DCS Input error，Please edit again"},
+    {"当前用户没有使用该串口的权限：请执行 sudo usermod -aG dialout $USER，然后重新登录",
+     "This user may not open the port: run sudo usermod -aG dialout $USER, then log in again"},
 };
 
-static_assert(std::size(kProgramTexts) == static_cast<int>(ProgramText::ChannelCustomDcsError) + 1);
+static_assert(std::size(kProgramTexts) == static_cast<int>(ProgramText::PortPermissionHint) + 1);
 
 }  // namespace
 

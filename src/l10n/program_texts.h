@@ -22,6 +22,7 @@ enum class ProgramText {
     ConfigUnreadable,        // config.ini exists but cannot be read; %1 says which and why
     ChannelCustomToneError,  // after the channel prefix and number, as the message table's
     ChannelCustomDcsError,
+    PortPermissionHint,  // the port exists but this user may not open it
 };
 
 QString programText(ProgramText id, UiLanguage language);

@@ -1,5 +1,6 @@
 #include "link/port_control.h"
 
+#include "l10n/program_texts.h"
 #include "platform/prompts.h"
 
 using l10n::MessageId;
@@ -186,7 +187,14 @@ void PortControl::showPortNumber(int number) {
 }
 
 void PortControl::warnPortFault() {
-    prompts_.showMessage(warningBox(l10n::message(MessageId::MsgPortFault, language_), language_));
+    // The radio tool's words first, then the system's, and what to do about missing rights.
+    QString text = l10n::message(MessageId::MsgPortFault, language_);
+    if (!port_.openErrorDetail().isEmpty()) text += QLatin1Char('\n') + port_.openErrorDetail();
+    if (port_.openPermissionDenied()) {
+        text +=
+            QLatin1Char('\n') + l10n::programText(l10n::ProgramText::PortPermissionHint, language_);
+    }
+    prompts_.showMessage(warningBox(text, language_));
 }
 
 void PortControl::selectComboItem(int index) {

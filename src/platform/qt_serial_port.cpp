@@ -1,10 +1,14 @@
 #include "platform/qt_serial_port.h"
 
+#include <QFile>
 #include <cmath>
 
 #ifdef Q_OS_UNIX
 #include <sys/ioctl.h>
 #include <termios.h>
+#include <unistd.h>
+
+#include <cerrno>
 #endif
 
 namespace {
@@ -46,8 +50,18 @@ PortOpenError QtSerialPort::open(const QString& device) {
     port_.setParity(QSerialPort::NoParity);
     port_.setStopBits(QSerialPort::OneStop);
     port_.setFlowControl(QSerialPort::NoFlowControl);
+    setOpenFailure({}, false);
     if (port_.open(QIODevice::ReadWrite)) return PortOpenError::None;
     const PortOpenError error = openErrorOf(port_.error());
+    bool denied = false;
+#ifdef Q_OS_UNIX
+    // QSerialPort says "permission" for a lock held elsewhere too; the file's rights tell.
+    const QByteArray path = QFile::encodeName(port_.portName().startsWith(QLatin1Char('/'))
+                                                  ? port_.portName()
+                                                  : QStringLiteral("/dev/") + port_.portName());
+    denied = ::access(path.constData(), R_OK | W_OK) != 0 && errno == EACCES;
+#endif
+    setOpenFailure(port_.errorString(), denied);
     port_.clearError();
     return error == PortOpenError::None ? PortOpenError::Other : error;
 }

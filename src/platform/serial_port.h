@@ -38,6 +38,11 @@ public:
     virtual void discardInput() = 0;
     virtual void discardOutput() = 0;
 
+    // Why the last open() failed, in the system's words (empty when it gave none), and whether
+    // the device is there but this user lacks the rights to it.
+    QString openErrorDetail() const { return openErrorDetail_; }
+    bool openPermissionDenied() const { return openPermissionDenied_; }
+
     void setReceiveNotification(bool on) { receiveNotification_ = on; }
     bool receiveNotification() const { return receiveNotification_; }
 
@@ -56,6 +61,13 @@ protected:
         if (receiveNotification_) Q_EMIT received();
     }
 
+    void setOpenFailure(const QString& detail, bool permissionDenied) {
+        openErrorDetail_ = detail;
+        openPermissionDenied_ = permissionDenied;
+    }
+
 private:
     bool receiveNotification_ = false;
+    QString openErrorDetail_;
+    bool openPermissionDenied_ = false;
 };

@@ -90,6 +90,15 @@ TEST_F(PortControlTest, ChoosingAPortThatCannotOpenWarnsAndUnchecksEverything) {
     }
 }
 
+TEST_F(PortControlTest, APortThisUserMayNotOpenSaysWhyAndWhatToDo) {
+    port.denied.insert("/dev/ttyUSB0");
+    control.selectDevice("/dev/ttyUSB0");
+    ASSERT_EQ(prompts.boxes().size(), 1u);
+    EXPECT_EQ(prompts.boxes()[0].text,
+              "COM error\nPermission denied\nThis user may not open the port: run sudo usermod "
+              "-aG dialout $USER, then log in again");
+}
+
 TEST_F(PortControlTest, ChoosingAPortOpensItChecksItAndNamesIt) {
     control.check_uart();
     control.com_sel(12);

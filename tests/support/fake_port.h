@@ -21,6 +21,7 @@ public:
     // Devices that do not exist (8002) or are held by someone else (8005).
     QSet<QString> absent;
     QSet<QString> busy;
+    QSet<QString> denied;  // there, but this user lacks the rights
     int drainDelayMs = 0;  // 0: the bytes are gone as soon as they are written
     std::vector<QByteArray> writes;
     std::vector<QString> openAttempts;
@@ -31,6 +32,10 @@ public:
         if (open_) return PortOpenError::PortInUse;
         if (absent.contains(device)) return PortOpenError::NoSuchPort;
         if (busy.contains(device)) return PortOpenError::PortInUse;
+        if (denied.contains(device)) {
+            setOpenFailure(QStringLiteral("Permission denied"), true);
+            return PortOpenError::PortInUse;
+        }
         open_ = true;
         device_ = device;
         return PortOpenError::None;
