@@ -144,6 +144,7 @@ void SimRadio::handleRequest(quint8 command, const QByteArray& payload) {
             programmingEnded_ = true;
             break;
         default:
+            answerService(command, payload);
             break;
     }
 }
@@ -169,7 +170,28 @@ void SimRadio::reply(quint8 command, const QByteArray& payload) {
         bytes.prepend(kGarbage);
         faults += QStringLiteral(" garbage");
     }
-    pending_.push_back({clock_.nowMs() + latencyMs_, bytes, faults.trimmed()});
+    queue(bytes, faults.trimmed());
+}
+
+void SimRadio::answerService(quint8 command, const QByteArray& payload) {
+    const std::optional<SimService::Answer> answer = service_.answer(command, payload);
+    if (!answer) return;
+    switch (answer->kind) {
+        case SimService::Answer::Record:
+            reply(kRecordReply, answer->bytes);
+            return;
+        case SimService::Answer::Acknowledge:
+            reply(kAcknowledge, {});
+            return;
+        case SimService::Answer::Text:
+            // Text lines are not frames: of the reply faults only the silence applies.
+            queue(answer->bytes, {});
+            return;
+    }
+}
+
+void SimRadio::queue(const QByteArray& bytes, const QString& note) {
+    pending_.push_back({clock_.nowMs() + latencyMs_, bytes, note});
     if (!replyTimer_->isActive()) replyTimer_->start(latencyMs_);
 }
 

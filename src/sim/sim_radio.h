@@ -9,6 +9,7 @@
 
 #include "platform/clock.h"
 #include "sim/sim_faults.h"
+#include "sim/sim_service.h"
 
 // The radio side of the programming protocol: it keeps a settings record and 25 channel
 // records in its memory and answers the programming requests after a reply latency.
@@ -16,6 +17,8 @@
 //   "X" -> takes the settings record,  "W" block i -> takes channel record i (11 or 13 bytes),
 //   both acknowledged with an empty frame; "E" ends programming and gets no reply.
 // Replies carrying records use the command byte 'D' (0x44), acknowledgements 'A' (0x41).
+// The engineering panels' requests go to its service side (SimService), which answers with a
+// record, an acknowledgement or a line of text.
 // Anything else (unknown commands, bad checksums, malformed records) goes unanswered.
 class SimRadio {
 public:
@@ -52,6 +55,8 @@ public:
         channels_.at(static_cast<size_t>(slot)) = record;
     }
 
+    SimService& service() { return service_; }
+
     int requestCount() const { return requestCount_; }
     bool programmingEnded() const { return programmingEnded_; }
     bool hungUp() const { return hungUp_; }
@@ -60,6 +65,8 @@ private:
     void feed(quint8 byte);
     void handleRequest(quint8 command, const QByteArray& payload);
     void reply(quint8 command, const QByteArray& payload);
+    void answerService(quint8 command, const QByteArray& payload);
+    void queue(const QByteArray& bytes, const QString& note);
     void sendDue();
     void sendNoise();
     void note(TraceKind kind, const QByteArray& bytes, const QString& text = {});
@@ -73,6 +80,7 @@ private:
 
     QByteArray settings_;
     std::array<QByteArray, kChannelCount> channels_;
+    SimService service_;
 
     // The request under way.
     QByteArray request_;
