@@ -54,9 +54,12 @@ back unchanged, e.g. `service --port COM3 crystal write $(cat crystal.txt)`.
   calibration  rssi-narrow rssi-wide        0..255 (the sliders span 10..254)
                power-high power-low         0..255 (the sliders span 0..128)
                noise-narrow noise-wide      0..255 (the sliders span 0..254)
-  band         txN rxN                      volts 0..3.3, N = row 1..20 (rows 1..15 are
-               rssiN                        0..255    400.025, 405.025 ... 470.025 MHz)
+  band         txN rxN                      volts 0..3.3, N = row 1..20
+               rssiN                        0..255 (rows 1..15 are 400.025 ... 470.025 MHz;
+                                            a read gives those, rows 16..20 are written as 0)
   crystal      crystal                      -127..127
+-o FILE saves what was read as the panel's text file (registers: 20 lines, address and value
+of each row; band: 60 lines, the TX, RX and RSSI columns of rows 1..20); a write takes it back.
 Values that do not fit are refused before anything is sent, naming the field. Messages go to
 stderr; the exit status is 0 on success, 1 when the radio did not answer or a value was
 refused, 2 on bad usage or an unreadable file.)";

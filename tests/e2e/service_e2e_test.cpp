@@ -26,8 +26,12 @@ protected:
         if (!QCoreApplication::instance()) new QCoreApplication(argc, argv);
     }
 
-    void SetUp() override {
-        sim_.start(QStringLiteral(RADIOSIM_PATH), {"--pace", "--trace", path("trace.txt")});
+    void SetUp() override { startRadio(); }
+
+    void startRadio(const QStringList& faults = {}) {
+        if (sim_.state() != QProcess::NotRunning) TearDown();
+        sim_.start(QStringLiteral(RADIOSIM_PATH),
+                   QStringList{"--pace", "--trace", path("trace.txt")} + faults);
         ASSERT_TRUE(sim_.waitForStarted(5000));
         while (!sim_.canReadLine() && sim_.waitForReadyRead(5000)) {
         }
@@ -144,6 +148,16 @@ TEST_F(ServiceEndToEnd, AValueThatDoesNotFitIsRefusedBeforeAnythingIsSent) {
     EXPECT_EQ(unknown.exitCode, 2);
     EXPECT_TRUE(unknown.err.contains("unknown name: tx21")) << unknown.err.toStdString();
     EXPECT_TRUE(requestsSeen().isEmpty());
+}
+
+TEST_F(ServiceEndToEnd, ASilentRadioGetsThreeAttemptsAndOneMessage) {
+    startRadio({"--silent", "all"});
+    const CliRun read = service({"crystal", "read"});
+    EXPECT_EQ(read.exitCode, 1);
+    EXPECT_TRUE(read.out.isEmpty());
+    EXPECT_EQ(read.err.count("message"), 1) << read.err.toStdString();
+    EXPECT_TRUE(read.err.contains("message [晶体修正]: 晶体修正 读 出错!!")) << read.err.toStdString();
+    EXPECT_EQ(requestsSeen(), QStringList(3, "6d 03 00 00 05 75"));
 }
 
 }  // namespace
