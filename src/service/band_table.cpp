@@ -47,6 +47,16 @@ QString bandFrequencyLabel(int row) {
     return QString::number(400.025 + 5 * (row - 1), 'f', 3);
 }
 
+bool bandKeyAccepted(int column, const QString& text, QChar key) {
+    constexpr int kBackspace = 8, kDelete = 127;
+    const int code = key.unicode();
+    if (code == kBackspace || code == kDelete) return true;
+    const int limit = column == BandTable::Rssi ? 3 : 4;
+    if (text.size() >= limit) return false;
+    if (column != BandTable::Rssi && text.isEmpty() && code > '3' && code <= '9') return false;
+    return (code >= '0' && code <= '9') || code == '.';
+}
+
 int voltageToByte(double volts) {
     return roundHalfEven(volts * 100 * 255 / 330);
 }

@@ -34,6 +34,11 @@ struct BandTable {
 // "400.025", "405.025", … "470.025" for rows 1..15; empty for the rest.
 QString bandFrequencyLabel(int row);
 
+// The cell editor's key filter: whether `key` may be typed into a cell of `column` holding
+// `text`: digits and "." (at most 3 characters in the RSSI column, 4 in the voltage columns,
+// where no voltage starts above 3), Backspace and Delete. Enter moves on instead.
+bool bandKeyAccepted(int column, const QString& text, QChar key);
+
 // round(V × 100 × 255 / 330), halves to even.
 int voltageToByte(double volts);
 // b / 255 × 3.3, rounded to two decimals, without trailing zeros ("1.7").

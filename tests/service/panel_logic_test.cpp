@@ -201,6 +201,23 @@ TEST(BandTable, VoltagesTravelAsEightBitsOfThreePointThreeVolts) {
     EXPECT_EQ(bandFrequencyLabel(16), "");
 }
 
+TEST(BandTable, KeyFilterKeepsCellsShortAndVoltagesBelowFour) {
+    const struct {
+        int column;
+        const char* text;
+        QChar key;
+        bool accepted;
+    } cases[] = {
+        {1, "", '3', true},    {1, "", '4', false},   {2, "1", '9', true},  {1, "", '.', true},
+        {1, "1.65", '1', false}, {1, "1.65", QChar(8), true}, {3, "", '9', true},
+        {3, "255", '0', false}, {3, "25", 'a', false}, {2, "", '-', false},
+    };
+    for (const auto& c : cases) {
+        EXPECT_EQ(bandKeyAccepted(c.column, c.text, c.key), c.accepted)
+            << c.column << " " << c.text << " " << c.key.unicode();
+    }
+}
+
 TEST(BandTable, SegmentsCarryAColumnEachAndSegmentOneRepeatsSegmentZero) {
     BandTable table;
     for (int row = 1; row <= BandTable::kRows; ++row) {
