@@ -1,5 +1,7 @@
 #include "service/register_grid.h"
 
+#include <cctype>
+
 #include "l10n/service_texts.h"
 #include "link/frame.h"
 #include "service/field_value.h"
@@ -15,11 +17,11 @@ constexpr int kDelete = 127;
 std::optional<int> hexNumber(const QString& text) {
     const QString digits = text.trimmed();
     if (digits.isEmpty() || digits.size() > 8) return std::nullopt;
-    bool ok = false;
-    const uint value = digits.toUInt(&ok, 16);
-    // toUInt takes a "0x" prefix; the grid's text has none.
-    if (!ok || digits.contains(QLatin1Char('x'), Qt::CaseInsensitive)) return std::nullopt;
-    return static_cast<int>(std::min<uint>(value, 0x7FFFFFFF));
+    // Digits only: toUInt alone would also take a sign or a "0x" prefix.
+    for (QChar c : digits) {
+        if (!isxdigit(c.toLatin1())) return std::nullopt;
+    }
+    return static_cast<int>(std::min<uint>(digits.toUInt(nullptr, 16), 0x7FFFFFFF));
 }
 
 RegisterBytes checkedHex(const QString& text, int max, ServiceText field, int row,

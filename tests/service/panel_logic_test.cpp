@@ -52,6 +52,8 @@ TEST(RegisterGrid, SendsHexadecimalThatFitsAndNamesTheRowAndFieldOtherwise) {
         {{"1", "10000"}, 0, 0, "register data of row 2: \"10000\" is not a number from 0 to FFFF"},
         {{"G1", "1"}, 0, 0, "register address of row 2: \"G1\""},
         {{"0x1", "1"}, 0, 0, "register address of row 2"},
+        {{"+1", "1"}, 0, 0, "register address of row 2"},
+        {{" 3a ", "00001"}, 0x3A, 1, ""},
         {{"1", "1.5"}, 0, 0, "register data of row 2"},
     };
     for (const auto& c : cases) {
