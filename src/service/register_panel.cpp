@@ -15,11 +15,9 @@ RegisterPanel::RegisterPanel(ServiceChannel& channel, QObject* parent)
 
 bool RegisterPanel::clear() {
     if (!begin()) return false;
-    step_ = Step::Clear;
     // The selectors are whatever the previous request left.
     send(pack_pc_cmd(service::kEepromClear, channel_.selectors), AttemptCount::Inherited,
          ReplyLengths::any(), [this](const ServiceChannel::Reply& reply) {
-             step_ = Step::Idle;
              if (!reply) {
                  box(ServiceText::ClearFailed, ServiceText::TitleRfReg);
                  finish(ServiceOutcome::Failed);
@@ -34,7 +32,7 @@ bool RegisterPanel::clear() {
 
 bool RegisterPanel::readEeprom() {
     if (!begin()) return false;
-    step_ = Step::ReadEeprom;
+    readCommand_ = service::kEepromRowRead;
     row_ = 1;
     rowCount_ = RegisterGrid::kRows;
     readRow();
@@ -52,7 +50,7 @@ bool RegisterPanel::readRfic() {
         toSend_[static_cast<size_t>(r - 1)] = address;
     }
     if (!begin()) return false;
-    step_ = Step::ReadRfic;
+    readCommand_ = service::kRficRead;
     row_ = 1;
     rowCount_ = count;
     readRow();
@@ -60,21 +58,16 @@ bool RegisterPanel::readRfic() {
 }
 
 void RegisterPanel::readRow() {
-    quint8 command = service::kEepromRowRead;
     channel_.selectors.RequestBlock = row_ - 1;
-    if (step_ == Step::ReadEeprom) {
-        channel_.selectors.RequestSub = RegisterGrid::kRows;
-    } else {
-        command = service::kRficRead;
-        channel_.selectors.RequestSub = toSend_[static_cast<size_t>(row_ - 1)].address;
-    }
-    send(pack_pc_cmd(command, channel_.selectors), AttemptCount::Inherited, kRegisterReply,
+    channel_.selectors.RequestSub = readCommand_ == service::kEepromRowRead
+                                        ? RegisterGrid::kRows
+                                        : toSend_[static_cast<size_t>(row_ - 1)].address;
+    send(pack_pc_cmd(readCommand_, channel_.selectors), AttemptCount::Inherited, kRegisterReply,
          [this](const ServiceChannel::Reply& reply) { rowRead(reply); });
 }
 
 void RegisterPanel::rowRead(const ServiceChannel::Reply& reply) {
     if (!reply) {
-        step_ = Step::Idle;
         box(ServiceText::RegReadFailed, ServiceText::TitleRfReg);
         finish(ServiceOutcome::Failed);
         return;
@@ -84,7 +77,6 @@ void RegisterPanel::rowRead(const ServiceChannel::Reply& reply) {
         readRow();
         return;
     }
-    step_ = Step::Idle;
     box(ServiceText::RegReadOk, ServiceText::TitleRfReg);
     finish(ServiceOutcome::Succeeded);
 }
@@ -112,7 +104,6 @@ bool RegisterPanel::startWrite(quint8 command) {
         toSend_[static_cast<size_t>(r - 1)] = bytes;
     }
     if (!begin()) return false;
-    step_ = Step::Write;
     writeCommand_ = command;
     row_ = 1;
     rowCount_ = count;
@@ -127,7 +118,6 @@ void RegisterPanel::writeRow() {
     send(frame, AttemptCount::Single, ReplyLengths::any(),
          [this](const ServiceChannel::Reply& reply) {
              if (!reply) {
-                 step_ = Step::Idle;
                  box(ServiceText::CheckPort, ServiceText::TitleReg);
                  finish(ServiceOutcome::Failed);
                  return;
@@ -136,7 +126,6 @@ void RegisterPanel::writeRow() {
                  writeRow();
                  return;
              }
-             step_ = Step::Idle;
              box(ServiceText::RegWriteOk, ServiceText::TitleRfReg);
              finish(ServiceOutcome::Succeeded);
          });

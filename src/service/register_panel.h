@@ -21,14 +21,12 @@ public:
     bool writeRfic();    // "Write RFIC": the listed rows into the RF chip
 
 private:
-    enum class Step { Idle, Clear, ReadEeprom, ReadRfic, Write };
-
     void readRow();
     void rowRead(const ServiceChannel::Reply& reply);
     bool startWrite(quint8 command);
     void writeRow();
 
-    Step step_ = Step::Idle;
+    quint8 readCommand_ = 0;
     int row_ = 0;
     int rowCount_ = 0;
     quint8 writeCommand_ = 0;
