@@ -48,6 +48,8 @@ enum class ServiceText {
     FileNotAllLoaded,
     FileLinesBeyond,  // %1 lines after line %2
     FileUnpairedLine,  // %1 line number
+    // A request given up on while the radio's replies had another length: %1 bytes.
+    ReplyWrongLength,
 };
 
 QString serviceText(ServiceText id, UiLanguage language);

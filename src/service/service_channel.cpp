@@ -1,6 +1,7 @@
 #include "service/service_channel.h"
 
 #include "l10n/program_texts.h"
+#include "l10n/service_texts.h"
 #include "link/link_transport.h"
 #include "platform/prompts.h"
 #include "platform/serial_port.h"
@@ -43,6 +44,7 @@ void ServiceChannel::Pc_Send_dt(const QByteArray& frame, AttemptCount preset,
     if (preset == AttemptCount::Single) attempts = 1;
     if (preset == AttemptCount::Inherited) attempts = transport_.attemptsLeft();
     done_ = std::move(done);
+    ignoredLength_ = -1;
     transport_.request(frame, kReplyTimeoutMs, attempts, accepted);
 }
 
@@ -91,6 +93,11 @@ void ServiceChannel::replyReceived(const QByteArray& payload) {
 }
 
 void ServiceChannel::exchangeFailed(const LinkFailure&) {
+    if (ignoredLength_ >= 0) {
+        prompts_.showMessage(warningBox(
+            l10n::serviceText(l10n::ServiceText::ReplyWrongLength, language_).arg(ignoredLength_),
+            language_));
+    }
     complete(std::nullopt);
 }
 

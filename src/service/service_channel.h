@@ -26,7 +26,8 @@ enum class ExchangeKind { Read, Write };
 //
 // Each request reports its reply (or its absence) to the callback given with it, once the link
 // says so; nothing waits in a loop. The channel shows only what concerns the link itself: a
-// busy link, and a closed port, once per operation.
+// busy link, a closed port (once per operation), and replies of the wrong length when the
+// request ends without its own.
 class ServiceChannel : public QObject, public LinkClient {
     Q_OBJECT
 
@@ -77,6 +78,7 @@ public:
     // LinkClient
     void replyReceived(const QByteArray& payload) override;
     void exchangeFailed(const LinkFailure& failure) override;
+    void replyIgnored(int length) override { ignoredLength_ = length; }
     void portClosedOnSend() override;
 
 private:
@@ -88,4 +90,5 @@ private:
     bool running_ = false;
     bool portClosedReported_ = false;
     Done done_;
+    int ignoredLength_ = -1;  // of a reply to the request under way that did not fit it
 };

@@ -94,6 +94,26 @@ TEST_F(ServiceChannelTest, ABadChecksumDoesNotEndTheWait) {
     EXPECT_EQ(requests.size(), 1u);
 }
 
+TEST_F(ServiceChannelTest, RepliesOfTheWrongLengthAreNamedWhenTheRequestFails) {
+    SimFaults faults;
+    faults.wrongLength = {1, 2};
+    radio.setFaults(faults);
+    Outcome outcome;
+    ASSERT_TRUE(channel.begin());
+    channel.Pc_Send_dt(calibrationReadRequest(), AttemptCount::Single, {8}, record(&outcome));
+    clock.advanceUntil([&] { return outcome.done; }, kLongEnough);
+    EXPECT_FALSE(outcome.reply.has_value());
+    EXPECT_EQ(prompts.transcript(),
+              QStringList{"box: The radio's reply had the wrong length (9 bytes) and was not "
+                          "used | NOTE | warning"});
+    // The next request starts clean: its reply fits after one that did not.
+    prompts.clear();
+    channel.Pc_Send_dt(calibrationReadRequest(), AttemptCount::Fresh, {8}, record(&outcome));
+    clock.advanceUntil([&] { return outcome.reply.has_value(); }, kLongEnough);
+    EXPECT_TRUE(prompts.transcript().isEmpty());
+    channel.end();
+}
+
 TEST_F(ServiceChannelTest, MonitorModeHidesRepliesFromTheRequester) {
     QList<QByteArray> monitored;
     channel.setMonitor([&](const QByteArray& frame) { monitored << frame; });
