@@ -33,10 +33,11 @@ std::optional<Source> readSource(const ServiceRequest& request, UiLanguage langu
     QStringList arguments;
     for (const std::string& a : request.arguments) arguments << QString::fromStdString(a);
     if (arguments.isEmpty()) {
-        usage(QStringLiteral("%1 %2 needs %3").arg(
-            QString::fromStdString(request.panel), QString::fromStdString(request.action),
-            filesAccepted ? QStringLiteral("a FILE or NAME=VALUE arguments")
-                          : QStringLiteral("NAME=VALUE arguments")));
+        usage(QStringLiteral("%1 %2 needs %3")
+                  .arg(QString::fromStdString(request.panel),
+                       QString::fromStdString(request.action),
+                       filesAccepted ? QStringLiteral("a FILE or NAME=VALUE arguments")
+                                     : QStringLiteral("NAME=VALUE arguments")));
         return std::nullopt;
     }
     Source source;
@@ -97,8 +98,10 @@ int registers(ServiceConsole& console, const ServiceRequest& request, const Regi
     RegisterPanel panel(console.channel());
     panel.grid = grid;
     const std::map<std::string, bool (RegisterPanel::*)()> actions = {
-        {"clear", &RegisterPanel::clear},          {"read-eeprom", &RegisterPanel::readEeprom},
-        {"read-rfic", &RegisterPanel::readRfic},   {"write-rfic", &RegisterPanel::writeRfic},
+        {"clear", &RegisterPanel::clear},
+        {"read-eeprom", &RegisterPanel::readEeprom},
+        {"read-rfic", &RegisterPanel::readRfic},
+        {"write-rfic", &RegisterPanel::writeRfic},
         {"save-eeprom", &RegisterPanel::saveEeprom},
     };
     const auto action = actions.at(request.action);
@@ -129,8 +132,8 @@ int calibration(ServiceConsole& console, const ServiceRequest& request,
     return exitStatus(console.run(panel, [&] { return panel.write(); }));
 }
 
-int band(ServiceConsole& console, const ServiceRequest& request, const std::optional<Source>& source,
-         const QStringList& adjust) {
+int band(ServiceConsole& console, const ServiceRequest& request,
+         const std::optional<Source>& source, const QStringList& adjust) {
     BandPanel panel(console.channel());
     if (request.action == "defaults") {
         return exitStatus(console.run(panel, [&] { return panel.restoreDefaults(); }));
@@ -222,7 +225,8 @@ int runServiceAction(const GlobalOptions& global, const ServiceRequest& request)
         if (!chosen) return kExitBadInput;
         adjust = *chosen;
     } else if (request.panel == "crystal" && action == "write") {
-        if (request.arguments.size() != 1) return usage(QStringLiteral("crystal write takes one VALUE"));
+        if (request.arguments.size() != 1)
+            return usage(QStringLiteral("crystal write takes one VALUE"));
         crystalValue = QString::fromStdString(request.arguments[0]);
         const QString prefix = QLatin1String(kCrystalName) + QLatin1Char('=');
         if (crystalValue.startsWith(prefix)) crystalValue = crystalValue.mid(prefix.size());

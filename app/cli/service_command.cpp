@@ -18,29 +18,35 @@ struct PanelSpec {
     std::vector<ActionSpec> actions;
 };
 
-const char* const kSource = "FILE (the panel's text file) or NAME=VALUE lines as a read prints them";
+const char* const kSource =
+    "FILE (the panel's text file) or NAME=VALUE lines as a read prints them";
 
 const std::vector<PanelSpec>& panels() {
     static const std::vector<PanelSpec> kPanels = {
-        {"registers", "the RF register table (RegTest): up to ten address/value pairs in hex",
+        {"registers",
+         "the RF register table (RegTest): up to ten address/value pairs in hex",
          {{"clear", "clear the register table in the radio's EEPROM", nullptr, false},
           {"read-eeprom", "read the ten rows of the EEPROM register table", nullptr, true},
-          {"read-rfic", "read the registers whose addresses are given from the RF chip", kSource, true},
+          {"read-rfic", "read the registers whose addresses are given from the RF chip", kSource,
+           true},
           {"write-rfic", "write the rows given into the RF chip", kSource, false},
           {"save-eeprom", "write the rows given into the EEPROM register table", kSource, false}}},
-        {"calibration", "the engineering-mode calibration record and the version text",
+        {"calibration",
+         "the engineering-mode calibration record and the version text",
          {{"read", "read the calibration record", nullptr, false},
           {"write", "read the record, change the values named, write it back",
            "NAME=VALUE lines as a read prints them", false},
           {"version", "read the radio's version text", nullptr, false}}},
-        {"band", "the band information table (400-470 MHz in 5 MHz points)",
+        {"band",
+         "the band information table (400-470 MHz in 5 MHz points)",
          {{"read", "read the four segments of the table", nullptr, true},
           {"write", "write a table file, or read the table, change the cells named and write it",
            kSource, false},
           {"defaults", "make the radio restore its own table", nullptr, false},
           {"adjust", "read the table, fill both halves of the band, write it",
            "tx-low=V tx-high=V rssi-low=N rssi-high=N (defaults 1.7 1.65 21 21)", false}}},
-        {"crystal", "the RF crystal correction, -127..127",
+        {"crystal",
+         "the RF crystal correction, -127..127",
          {{"read", "read the correction", nullptr, false},
           {"write", "write a correction", "VALUE or crystal=VALUE", false}}},
     };

@@ -28,8 +28,7 @@ ServiceConsole::ServiceConsole(const GlobalOptions& global, const PortArgument& 
       channel_(*transport_, prompts_) {
     channel_.setLanguage(language);
     control_->select(port, QString::fromLatin1(SimulatedPort::kDefaultDevice));
-    QObject::connect(transport_.get(), &LinkTransport::portLost,
-                     [this] { control_->portLost(); });
+    QObject::connect(transport_.get(), &LinkTransport::portLost, [this] { control_->portLost(); });
 }
 
 ServiceConsole::~ServiceConsole() {

@@ -42,7 +42,8 @@ const TextPair kServiceTexts[] = {
     {"文件没有全部调入，未调入：%1", "The file was not loaded entirely; dropped: %1"},
     {"第%2行以后的 %1 行", "%1 lines after line %2"},
     {"第%1行（没有与之成对的一行）", "line %1 (it has no pair)"},
-    {"对讲机回复的长度不对（%1 字节），没有采用", "The radio's reply had the wrong length (%1 bytes) and was not used"},
+    {"对讲机回复的长度不对（%1 字节），没有采用",
+     "The radio's reply had the wrong length (%1 bytes) and was not used"},
 };
 
 static_assert(std::size(kServiceTexts) == static_cast<int>(ServiceText::ReplyWrongLength) + 1);

@@ -46,7 +46,7 @@ enum class ServiceText {
     CrystalValue,
     // Loading a text file: %1 what was dropped.
     FileNotAllLoaded,
-    FileLinesBeyond,  // %1 lines after line %2
+    FileLinesBeyond,   // %1 lines after line %2
     FileUnpairedLine,  // %1 line number
     // A request given up on while the radio's replies had another length: %1 bytes.
     ReplyWrongLength,

@@ -55,8 +55,7 @@ bool BandPanel::write() {
 void BandPanel::writeSegment() {
     channel_.selectors.RequestBlock = segment_;
     send(bandWriteRequest(channel_.selectors, toSend_[static_cast<size_t>(segment_)]),
-         AttemptCount::Inherited, ReplyLengths::any(),
-         [this](const ServiceChannel::Reply& reply) {
+         AttemptCount::Inherited, ReplyLengths::any(), [this](const ServiceChannel::Reply& reply) {
              if (!reply) {
                  box(ServiceText::RegReadFailed, ServiceText::TitleBandInfo);
                  finish(ServiceOutcome::Failed);

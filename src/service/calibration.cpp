@@ -41,11 +41,16 @@ const CalibrationFieldInfo& calibrationField(CalibrationField field) {
 
 QString calibrationFieldLabel(CalibrationField field, UiLanguage language) {
     switch (field) {
-        case CalibrationField::RssiNarrow: return l10n::serviceCaption(2, language);
-        case CalibrationField::RssiWide: return l10n::serviceCaption(3, language);
-        case CalibrationField::PowerHigh: return l10n::serviceCaption(7, language);
-        case CalibrationField::PowerLow: return l10n::serviceCaption(8, language);
-        case CalibrationField::RxPwm: return l10n::serviceCaption(9, language);
+        case CalibrationField::RssiNarrow:
+            return l10n::serviceCaption(2, language);
+        case CalibrationField::RssiWide:
+            return l10n::serviceCaption(3, language);
+        case CalibrationField::PowerHigh:
+            return l10n::serviceCaption(7, language);
+        case CalibrationField::PowerLow:
+            return l10n::serviceCaption(8, language);
+        case CalibrationField::RxPwm:
+            return l10n::serviceCaption(9, language);
         case CalibrationField::NoiseNarrow:
             return l10n::serviceText(l10n::ServiceText::NoiseNarrow, language);
         case CalibrationField::NoiseWide:
@@ -55,7 +60,8 @@ QString calibrationFieldLabel(CalibrationField field, UiLanguage language) {
 }
 
 CalibrationValues::CalibrationValues() {
-    for (const CalibrationFieldInfo& info : kFields) (*this)[info.field] = QString::number(info.initial);
+    for (const CalibrationFieldInfo& info : kFields)
+        (*this)[info.field] = QString::number(info.initial);
 }
 
 QByteArray calibrationReadRequest() {
@@ -85,8 +91,8 @@ CalibrationWrite calibrationWriteRequest(const CalibrationValues& values, int bl
     for (const CalibrationFieldInfo& info : kFields) {
         if (info.recordByte < 0) continue;
         // The byte's range, not the slider's: a value read from the radio goes back as read.
-        const FieldResult byte = integerField(values[info.field], 0, 255,
-                                              calibrationFieldLabel(info.field, language), language);
+        const FieldResult byte = integerField(
+            values[info.field], 0, 255, calibrationFieldLabel(info.field, language), language);
         if (!byte.ok()) return {{}, byte.error};
         record[info.recordByte] = static_cast<char>(byte.value);
     }

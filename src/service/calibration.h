@@ -24,7 +24,7 @@ struct CalibrationFieldInfo {
     CalibrationField field;
     const char* name;  // the command line's name for it
     int sliderMin, sliderMax, initial;
-    int recordByte;    // -1: not in the record
+    int recordByte;  // -1: not in the record
 };
 const std::array<CalibrationFieldInfo, kCalibrationFields>& calibrationFields();
 const CalibrationFieldInfo& calibrationField(CalibrationField field);

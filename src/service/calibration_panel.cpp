@@ -17,7 +17,8 @@ bool CalibrationPanel::read() {
     if (!begin()) return false;
     const bool sent = channel_.Panel_Exchange(
         ExchangeKind::Read, [] { return calibrationReadRequest(); },
-        {service::kCalibrationRecordSize}, [this](const ServiceChannel::Reply& reply) {
+        {service::kCalibrationRecordSize},
+        [this](const ServiceChannel::Reply& reply) {
             if (!reply) {
                 messageBox(MessageId::MsgServiceReadTimeout);
                 finish(ServiceOutcome::Failed);
@@ -34,7 +35,8 @@ bool CalibrationPanel::read() {
 bool CalibrationPanel::write() {
     // Checked with the selectors the exchange will use.
     const CalibrationWrite request = calibrationWriteRequest(values, 0, 0, language());
-    if (!request.ok()) return refuse(request.error, l10n::message(MessageId::MsgAdjust, language()));
+    if (!request.ok())
+        return refuse(request.error, l10n::message(MessageId::MsgAdjust, language()));
     if (!begin()) return false;
     channel_.Panel_Exchange(
         ExchangeKind::Write, [request] { return request.frame; }, ReplyLengths::any(),
@@ -46,7 +48,7 @@ bool CalibrationPanel::write() {
                 return;
             }
             box(text(ServiceText::CalibrationWriteOk),
-                              l10n::message(MessageId::MsgAdjust, language()));
+                l10n::message(MessageId::MsgAdjust, language()));
             finish(ServiceOutcome::Succeeded);
         });
     return true;

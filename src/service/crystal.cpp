@@ -17,9 +17,9 @@ int decodeCrystal(const QByteArray& payload) {
 
 CrystalWrite crystalWriteRequest(const QString& text, const RequestSelectors& selectors,
                                  UiLanguage language) {
-    const FieldResult trim = integerField(
-        text, kCrystalMin, kCrystalMax,
-        l10n::serviceText(l10n::ServiceText::CrystalValue, language), language);
+    const FieldResult trim =
+        integerField(text, kCrystalMin, kCrystalMax,
+                     l10n::serviceText(l10n::ServiceText::CrystalValue, language), language);
     if (!trim.ok()) return {{}, trim.error};
     QByteArray payload;
     payload.append(static_cast<char>(selectors.RequestBlock))

@@ -19,8 +19,7 @@ int roundHalfEven(double value) {
 
 QString outOfRangeMessage(const QString& field, const QString& text, const QString& low,
                           const QString& high, UiLanguage language) {
-    return l10n::serviceText(ServiceText::NotANumberInRange, language)
-        .arg(field, text, low, high);
+    return l10n::serviceText(ServiceText::NotANumberInRange, language).arg(field, text, low, high);
 }
 
 QString fieldOfRow(const QString& field, int row, UiLanguage language) {
@@ -36,6 +35,6 @@ FieldResult integerField(const QString& text, int low, int high, const QString& 
         const int value = roundHalfEven(*number);
         if (value >= low && value <= high) return {value, {}};
     }
-    return {0, outOfRangeMessage(field, text, QString::number(low), QString::number(high),
-                                 language)};
+    return {0,
+            outOfRangeMessage(field, text, QString::number(low), QString::number(high), language)};
 }

@@ -13,8 +13,7 @@ QByteArray panelFileBytes(const QStringList& lines) {
     return encodeFileText(joinLines(lines));
 }
 
-QString droppedLinesMessage(const QStringList& lines, int used, int unpaired,
-                            UiLanguage language) {
+QString droppedLinesMessage(const QStringList& lines, int used, int unpaired, UiLanguage language) {
     QStringList parts;
     if (unpaired > 0 && !lines.value(unpaired - 1).trimmed().isEmpty()) {
         parts << l10n::serviceText(ServiceText::FileUnpairedLine, language).arg(unpaired);

@@ -13,5 +13,4 @@ QByteArray panelFileBytes(const QStringList& lines);
 
 // What a load could not take, for the message: the lines after line `used` (blank ones do not
 // count) and, when `unpaired` is a line number, that line. Empty when nothing was dropped.
-QString droppedLinesMessage(const QStringList& lines, int used, int unpaired,
-                            UiLanguage language);
+QString droppedLinesMessage(const QStringList& lines, int used, int unpaired, UiLanguage language);

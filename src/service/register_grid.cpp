@@ -54,8 +54,7 @@ int Chk_RegDt(const RegisterGrid& grid) {
 }
 
 bool registerKeyAccepted(int column, const QString& text, QChar key) {
-    const int limit =
-        column == 2 ? RegisterGrid::kValueDigits : RegisterGrid::kAddressDigits;
+    const int limit = column == 2 ? RegisterGrid::kValueDigits : RegisterGrid::kAddressDigits;
     const int code = key.unicode();
     if (text.size() >= limit) return code == kBackspace;
     return (code >= '0' && code <= 'f') || code == '.' || code == kDelete || code == kBackspace;
@@ -63,18 +62,16 @@ bool registerKeyAccepted(int column, const QString& text, QChar key) {
 
 RegisterBytes registerAddress(const RegisterGrid& grid, int row, UiLanguage language) {
     RegisterBytes bytes;
-    const RegisterBytes refused = checkedHex(grid.row(row).address, 0xFF,
-                                             ServiceText::RegisterAddress, row, language,
-                                             &bytes.address);
+    const RegisterBytes refused = checkedHex(
+        grid.row(row).address, 0xFF, ServiceText::RegisterAddress, row, language, &bytes.address);
     return refused.ok() ? bytes : refused;
 }
 
 RegisterBytes registerBytes(const RegisterGrid& grid, int row, UiLanguage language) {
     RegisterBytes bytes = registerAddress(grid, row, language);
     if (!bytes.ok() || grid.row(row).value.trimmed().isEmpty()) return bytes;
-    const RegisterBytes refused = checkedHex(grid.row(row).value, 0xFFFF,
-                                             ServiceText::RegisterData, row, language,
-                                             &bytes.value);
+    const RegisterBytes refused = checkedHex(grid.row(row).value, 0xFFFF, ServiceText::RegisterData,
+                                             row, language, &bytes.value);
     return refused.ok() ? bytes : refused;
 }
 
@@ -83,7 +80,9 @@ QString hexText(int value) {
 }
 
 RegisterRow registerRowFromReply(const QByteArray& payload) {
-    const auto byte = [&payload](int i) { return static_cast<int>(static_cast<quint8>(payload.at(i))); };
+    const auto byte = [&payload](int i) {
+        return static_cast<int>(static_cast<quint8>(payload.at(i)));
+    };
     return {hexText(byte(0)), hexText(byte(1) * 256 + byte(2))};
 }
 
@@ -104,8 +103,7 @@ QByteArray registerFileBytes(const RegisterGrid& grid) {
     return panelFileBytes(lines);
 }
 
-RegisterGrid registerGridFromFile(const QByteArray& bytes, UiLanguage language,
-                                  QString* dropped) {
+RegisterGrid registerGridFromFile(const QByteArray& bytes, UiLanguage language, QString* dropped) {
     const QStringList lines = panelFileLines(bytes);
     RegisterGrid grid;
     const int pairs = std::min<int>(static_cast<int>(lines.size()) / 2, RegisterGrid::kRows);

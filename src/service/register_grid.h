@@ -13,9 +13,7 @@
 struct RegisterRow {
     QString address;  // up to 2 hexadecimal digits
     QString value;    // up to 4
-    bool operator==(const RegisterRow& o) const {
-        return address == o.address && value == o.value;
-    }
+    bool operator==(const RegisterRow& o) const { return address == o.address && value == o.value; }
 };
 
 struct RegisterGrid {
@@ -60,12 +58,10 @@ RegisterRow registerRowFromReply(const QByteArray& payload);
 
 // The register row request "Save To EEP" (0x5F) and "Write RFIC" (0x63) send:
 // [cmd, 5, block (row − 1), sub (row count), address, value high, value low, checksum].
-QByteArray build_reg_row(quint8 cmd, const RequestSelectors& selectors,
-                         const RegisterBytes& bytes);
+QByteArray build_reg_row(quint8 cmd, const RequestSelectors& selectors, const RegisterBytes& bytes);
 
 // The text file: 20 lines, address and value of rows 1..10 in turn, CR LF after each.
 QByteArray registerFileBytes(const RegisterGrid& grid);
 // Loads line pairs into rows 1, 2, …; what did not fit (pairs beyond the tenth, a last line
 // without its pair) is named in `dropped`, empty when everything was taken.
-RegisterGrid registerGridFromFile(const QByteArray& bytes, UiLanguage language,
-                                  QString* dropped);
+RegisterGrid registerGridFromFile(const QByteArray& bytes, UiLanguage language, QString* dropped);

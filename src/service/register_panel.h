@@ -14,11 +14,11 @@ public:
     RegisterGrid grid;
 
     // Each returns false when nothing was started (the reason has been shown).
-    bool clear();        // "CLEAR": empties the radio's EEPROM table, then the grid
-    bool readEeprom();   // "Read EEP": all ten rows of the EEPROM table
-    bool readRfic();     // "Read RFIC": the registers listed in the grid
-    bool saveEeprom();   // "Save To EEP": the listed rows into the EEPROM table
-    bool writeRfic();    // "Write RFIC": the listed rows into the RF chip
+    bool clear();       // "CLEAR": empties the radio's EEPROM table, then the grid
+    bool readEeprom();  // "Read EEP": all ten rows of the EEPROM table
+    bool readRfic();    // "Read RFIC": the registers listed in the grid
+    bool saveEeprom();  // "Save To EEP": the listed rows into the EEPROM table
+    bool writeRfic();   // "Write RFIC": the listed rows into the RF chip
 
 private:
     void readRow();

@@ -37,8 +37,8 @@ void ServiceChannel::end() {
     running_ = false;
 }
 
-void ServiceChannel::Pc_Send_dt(const QByteArray& frame, AttemptCount preset,
-                                ReplyLengths accepted, Done done) {
+void ServiceChannel::Pc_Send_dt(const QByteArray& frame, AttemptCount preset, ReplyLengths accepted,
+                                Done done) {
     Q_ASSERT(running_);
     int attempts = LinkTransport::kMaxAttempts;
     if (preset == AttemptCount::Single) attempts = 1;

@@ -56,8 +56,7 @@ public:
 
     // Sends `frame` and awaits a reply of an `accepted` length, re-sending on each 1000 ms
     // time-out as `preset` allows. Only within an operation.
-    void Pc_Send_dt(const QByteArray& frame, AttemptCount preset, ReplyLengths accepted,
-                    Done done);
+    void Pc_Send_dt(const QByteArray& frame, AttemptCount preset, ReplyLengths accepted, Done done);
     // The exchange of the calibration panel: a read is refused while the port is closed
     // (message and false, nothing sent); monitor mode ends, both selectors become 0, and the
     // request built by `build` goes out with three attempts.

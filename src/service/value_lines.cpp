@@ -92,8 +92,10 @@ QStringList bandValueLines(const BandTable& table, int rows) {
     QStringList lines;
     for (int column = 1; column <= BandTable::kColumns; ++column) {
         for (int row = 1; row <= rows; ++row) {
-            lines << QStringLiteral("%1%2=%3").arg(kBandColumns[column - 1]).arg(row).arg(
-                table.cell(row, column));
+            lines << QStringLiteral("%1%2=%3")
+                         .arg(kBandColumns[column - 1])
+                         .arg(row)
+                         .arg(table.cell(row, column));
         }
     }
     return lines;

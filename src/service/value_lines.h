@@ -24,8 +24,7 @@ std::optional<std::vector<Assignment>> parseAssignments(const QStringList& argum
 
 QStringList registerValueLines(const RegisterGrid& grid);
 // Puts each value into its cell; on an unknown name, `error` gets it and nothing changes.
-bool applyRegisterValues(const std::vector<Assignment>& values, RegisterGrid* grid,
-                         QString* error);
+bool applyRegisterValues(const std::vector<Assignment>& values, RegisterGrid* grid, QString* error);
 
 QStringList calibrationValueLines(const CalibrationValues& values);
 bool applyCalibrationValues(const std::vector<Assignment>& values, CalibrationValues* target,

@@ -30,8 +30,7 @@ SimService::Answer acknowledge() {
 
 }  // namespace
 
-SimService::SimService()
-    : calibration_(QByteArray::fromHex("46232a2880003535")) {
+SimService::SimService() : calibration_(QByteArray::fromHex("46232a2880003535")) {
     // A chip fresh from reset: every register holds something a technician would recognise
     // as its own, not zeros.
     for (int address = 0; address < kRfRegisters; ++address) {
@@ -49,7 +48,7 @@ SimService::SimService()
 QByteArray SimService::defaultBandSegment(int segment) {
     QByteArray bytes(kBandSegmentSize, '\0');
     for (int i = 0; i < kBandSegmentSize; ++i) {
-        int value = 21;  // RSSI threshold
+        int value = 21;                               // RSSI threshold
         if (segment <= 1) value = i < 8 ? 131 : 128;  // 1.70 V and 1.65 V of transmit control
         if (segment == 2) value = 46 + 9 * i;         // the receiver's tuning voltage rises
         bytes[i] = static_cast<char>(value);
@@ -81,8 +80,8 @@ std::optional<SimService::Answer> SimService::registerRequest(quint8 command,
         case kEepromRowRead: {
             if (size != 3 || block >= kEepromRows) return std::nullopt;
             // Rows beyond the table's length read as empty.
-            const EepromRow row = block < eepromCount_ ? eeprom_[static_cast<size_t>(block)]
-                                                       : EepromRow{};
+            const EepromRow row =
+                block < eepromCount_ ? eeprom_[static_cast<size_t>(block)] : EepromRow{};
             return record(registerReply(row.address, row.value));
         }
         case kEepromRowWrite:

@@ -47,10 +47,9 @@ protected:
     // radioprog-cli service --port <radiosim> PANEL ACTION ARGS...
     CliRun service(const QStringList& arguments) {
         QProcess process;
-        process.start(QStringLiteral(CLI_PATH),
-                      QStringList{"--config", dir_.path(), "--lang", "en", "service", "--port",
-                                  device_} +
-                          arguments);
+        process.start(QStringLiteral(CLI_PATH), QStringList{"--config", dir_.path(), "--lang", "en",
+                                                            "service", "--port", device_} +
+                                                    arguments);
         EXPECT_TRUE(process.waitForFinished(60'000)) << arguments.join(' ').toStdString();
         return {process.exitCode(),
                 QString::fromUtf8(process.readAllStandardOutput()).split('\n', Qt::SkipEmptyParts),
@@ -83,7 +82,8 @@ TEST_F(ServiceEndToEnd, RegistersWrittenAreReadBack) {
     EXPECT_TRUE(write.err.contains("message [RF Reg]: REG 写 OK!!")) << write.err.toStdString();
     EXPECT_TRUE(requestsSeen().contains("63 05 00 02 3a 1f 00 c3"));
 
-    const CliRun read = service({"registers", "read-rfic", "addr1=5", "addr2=3A", "-o", path("regs.txt")});
+    const CliRun read =
+        service({"registers", "read-rfic", "addr1=5", "addr2=3A", "-o", path("regs.txt")});
     EXPECT_EQ(read.exitCode, 0) << read.err.toStdString();
     EXPECT_EQ(read.out, QStringList({"addr1=5", "data1=FFFF", "addr2=3A", "data2=1F00"}));
 
@@ -96,8 +96,8 @@ TEST_F(ServiceEndToEnd, RegistersWrittenAreReadBack) {
 }
 
 TEST_F(ServiceEndToEnd, CalibrationWrittenIsReadBackAndReadLinesGoBackUnchanged) {
-    const CliRun write = service({"calibration", "write", "rssi-narrow=100", "power-high=128",
-                               "noise-wide=0"});
+    const CliRun write =
+        service({"calibration", "write", "rssi-narrow=100", "power-high=128", "noise-wide=0"});
     EXPECT_EQ(write.exitCode, 0) << write.err.toStdString();
     EXPECT_TRUE(write.err.contains("message [Adjust]: OK")) << write.err.toStdString();
 
@@ -142,7 +142,8 @@ TEST_F(ServiceEndToEnd, TheCrystalTrimWrittenIsReadBack) {
 TEST_F(ServiceEndToEnd, AValueThatDoesNotFitIsRefusedBeforeAnythingIsSent) {
     const CliRun refused = service({"crystal", "write", "200"});
     EXPECT_EQ(refused.exitCode, 1);
-    EXPECT_TRUE(refused.err.contains("crystal correction: \"200\" is not a number from -127 to 127"))
+    EXPECT_TRUE(
+        refused.err.contains("crystal correction: \"200\" is not a number from -127 to 127"))
         << refused.err.toStdString();
     const CliRun unknown = service({"band", "write", "tx21=1"});
     EXPECT_EQ(unknown.exitCode, 2);
@@ -156,7 +157,8 @@ TEST_F(ServiceEndToEnd, ASilentRadioGetsThreeAttemptsAndOneMessage) {
     EXPECT_EQ(read.exitCode, 1);
     EXPECT_TRUE(read.out.isEmpty());
     EXPECT_EQ(read.err.count("message"), 1) << read.err.toStdString();
-    EXPECT_TRUE(read.err.contains("message [晶体修正]: 晶体修正 读 出错!!")) << read.err.toStdString();
+    EXPECT_TRUE(read.err.contains("message [晶体修正]: 晶体修正 读 出错!!"))
+        << read.err.toStdString();
     EXPECT_EQ(requestsSeen(), QStringList(3, "6d 03 00 00 05 75"));
 }
 

@@ -82,9 +82,10 @@ TEST(RegisterGrid, KeyFilterKeepsTheCellShortAndHexadecimal) {
         QChar key;
         bool accepted;
     } cases[] = {
-        {1, "", 'a', true},   {1, "", 'F', true},    {1, "", 'g', false}, {1, "3", '.', true},
-        {1, "3A", '1', false}, {1, "3A", QChar(8), true}, {2, "1F0", '0', true},
-        {2, "1F00", '0', false}, {2, "", ' ', false}, {2, "", QChar(13), false},
+        {1, "", 'a', true},        {1, "", 'F', true},      {1, "", 'g', false},
+        {1, "3", '.', true},       {1, "3A", '1', false},   {1, "3A", QChar(8), true},
+        {2, "1F0", '0', true},     {2, "1F00", '0', false}, {2, "", ' ', false},
+        {2, "", QChar(13), false},
     };
     for (const auto& c : cases) {
         EXPECT_EQ(registerKeyAccepted(c.column, c.text, c.key), c.accepted)
@@ -162,7 +163,8 @@ TEST(Calibration, AWriteIsRefusedNamingTheFirstBoxThatIsNotAByte) {
         CalibrationValues values;
         values[c.field] = c.text;
         const CalibrationWrite write = calibrationWriteRequest(values, 0, 0, kEn);
-        const bool expected = QString(c.error).isEmpty() ? write.ok() : write.error.startsWith(c.error);
+        const bool expected =
+            QString(c.error).isEmpty() ? write.ok() : write.error.startsWith(c.error);
         EXPECT_TRUE(expected) << c.text << " gave " << write.error.toStdString();
         EXPECT_EQ(write.frame.isEmpty(), !write.ok());
     }
@@ -183,7 +185,8 @@ TEST(Calibration, VersionTextIsTheLinesUpToTheCarriageReturn) {
         {"\n\r", {"", ""}},
         {QByteArray(300, 'x'), {}},  // no end within the buffer: nothing to show
     };
-    for (const auto& c : cases) EXPECT_EQ(versionLines(c.buffer), c.lines) << c.buffer.toStdString();
+    for (const auto& c : cases)
+        EXPECT_EQ(versionLines(c.buffer), c.lines) << c.buffer.toStdString();
 }
 
 TEST(BandTable, VoltagesTravelAsEightBitsOfThreePointThreeVolts) {
@@ -210,9 +213,10 @@ TEST(BandTable, KeyFilterKeepsCellsShortAndVoltagesBelowFour) {
         QChar key;
         bool accepted;
     } cases[] = {
-        {1, "", '3', true},    {1, "", '4', false},   {2, "1", '9', true},  {1, "", '.', true},
-        {1, "1.65", '1', false}, {1, "1.65", QChar(8), true}, {3, "", '9', true},
-        {3, "255", '0', false}, {3, "25", 'a', false}, {2, "", '-', false},
+        {1, "", '3', true},  {1, "", '4', false},     {2, "1", '9', true},
+        {1, "", '.', true},  {1, "1.65", '1', false}, {1, "1.65", QChar(8), true},
+        {3, "", '9', true},  {3, "255", '0', false},  {3, "25", 'a', false},
+        {2, "", '-', false},
     };
     for (const auto& c : cases) {
         EXPECT_EQ(bandKeyAccepted(c.column, c.text, c.key), c.accepted)
@@ -231,7 +235,8 @@ TEST(BandTable, SegmentsCarryAColumnEachAndSegmentOneRepeatsSegmentZero) {
     EXPECT_EQ(seg0, QByteArray(20, static_cast<char>(131)));
     EXPECT_EQ(bandSegmentData(table, 1, kEn).data, seg0);
     EXPECT_EQ(bandSegmentData(table, 2, kEn).data, QByteArray(19, '\xff') + QByteArray(1, '\0'));
-    EXPECT_EQ(bandSegmentData(table, 3, kEn).data.toHex(), "0102030405060708090a0b0c0d0e0f1011121314");
+    EXPECT_EQ(bandSegmentData(table, 3, kEn).data.toHex(),
+              "0102030405060708090a0b0c0d0e0f1011121314");
 }
 
 TEST(BandTable, ACellThatDoesNotFitItsByteIsNamed) {
@@ -240,7 +245,8 @@ TEST(BandTable, ACellThatDoesNotFitItsByteIsNamed) {
         const char* text;
         const char* error;
     } cases[] = {
-        {3, BandTable::TxVoltage, "3.31", "TX voltage of row 3: \"3.31\" is not a number from 0 to 3.3"},
+        {3, BandTable::TxVoltage, "3.31",
+         "TX voltage of row 3: \"3.31\" is not a number from 0 to 3.3"},
         {20, BandTable::RxVoltage, "-0.1", "RX voltage of row 20: \"-0.1\""},
         {7, BandTable::Rssi, "256", "RSSI of row 7: \"256\" is not a number from 0 to 255"},
         {7, BandTable::Rssi, "2a", "RSSI of row 7: \"2a\""},
@@ -317,7 +323,7 @@ TEST(Crystal, TrimIsASignedByte) {
         const char* text;
         int byte;  // -1: refused
     } writes[] = {{"0", 0x00}, {"-127", 0x81}, {"127", 0x7F}, {"-1", 0xFF}, {" 5 ", 0x05},
-                  {"128", -1}, {"-128", -1}, {"", -1},   {"abc", -1}};
+                  {"128", -1}, {"-128", -1},   {"", -1},      {"abc", -1}};
     for (const auto& c : writes) {
         const CrystalWrite write = crystalWriteRequest(c.text, {0, 0}, kEn);
         if (c.byte < 0) {

@@ -1,10 +1,11 @@
 // The service exchanges on the manual clock: attempts, what ends a wait, and who owns the link.
 
+#include "service/service_channel.h"
+
 #include <gtest/gtest.h>
 
 #include "link/session_fixture.h"
 #include "service/calibration.h"
-#include "service/service_channel.h"
 #include "service/service_protocol.h"
 
 namespace {
@@ -125,8 +126,8 @@ TEST_F(ServiceChannelTest, MonitorModeHidesRepliesFromTheRequester) {
     Outcome read;
     ASSERT_TRUE(channel.begin());
     channel.selectors = {4, 9};
-    ASSERT_TRUE(channel.Panel_Exchange(ExchangeKind::Read, [] { return calibrationReadRequest(); },
-                                       {8}, record(&read)));
+    ASSERT_TRUE(channel.Panel_Exchange(
+        ExchangeKind::Read, [] { return calibrationReadRequest(); }, {8}, record(&read)));
     clock.advanceUntil([&] { return read.done; }, kLongEnough);
     EXPECT_TRUE(read.reply.has_value());
     EXPECT_FALSE(channel.monitorActive());
@@ -158,8 +159,9 @@ TEST_F(ServiceChannelTest, AClosedPortIsReportedOncePerOperation) {
     prompts.clear();
     ASSERT_TRUE(channel.begin());
     bool called = false;
-    EXPECT_FALSE(channel.Panel_Exchange(ExchangeKind::Read, [] { return calibrationReadRequest(); },
-                                        {8}, [&](const ServiceChannel::Reply&) { called = true; }));
+    EXPECT_FALSE(channel.Panel_Exchange(
+        ExchangeKind::Read, [] { return calibrationReadRequest(); }, {8},
+        [&](const ServiceChannel::Reply&) { called = true; }));
     clock.advance(5000);
     EXPECT_FALSE(called);
     EXPECT_EQ(prompts.transcript(), QStringList{"box: Please check COM Port | "});
@@ -176,9 +178,8 @@ TEST(ServiceChannelLineMode, ATextLineReplyIsTheLineBuffer) {
     ASSERT_TRUE(channel.begin());
     channel.init_send_str();
     ServiceChannel::Reply reply;
-    channel.Pc_Send_dt(pack_pc_cmd(service::kVersionRead, channel.selectors),
-                       AttemptCount::Single, ReplyLengths::any(),
-                       [&](const ServiceChannel::Reply& r) { reply = r; });
+    channel.Pc_Send_dt(pack_pc_cmd(service::kVersionRead, channel.selectors), AttemptCount::Single,
+                       ReplyLengths::any(), [&](const ServiceChannel::Reply& r) { reply = r; });
     clock.advance(20);
     port.inject(QByteArray::fromHex("410a42"));
     EXPECT_FALSE(reply.has_value());

@@ -3,12 +3,12 @@
 
 #include <gtest/gtest.h>
 
+#include "l10n/program_texts.h"
 #include "link/session_fixture.h"
 #include "service/band_panel.h"
 #include "service/calibration_panel.h"
 #include "service/crystal_panel.h"
 #include "service/register_panel.h"
-#include "l10n/program_texts.h"
 #include "sim/sim_service.h"
 
 namespace {
@@ -41,7 +41,8 @@ TEST_F(ServicePanelsTest, RegistersWrittenIntoTheChipAreReadBack) {
     RegisterPanel panel(channel);
     panel.grid.row(1) = {"3a", "1f00"};
     panel.grid.row(2) = {"5", "FFFF"};
-    EXPECT_EQ(run(panel, [&] { return panel.writeRfic(); }), QStringList{"box: REG 写 OK!! | RF Reg"});
+    EXPECT_EQ(run(panel, [&] { return panel.writeRfic(); }),
+              QStringList{"box: REG 写 OK!! | RF Reg"});
     EXPECT_EQ(requestHex(), QStringList({"63 05 00 02 3a 1f 00 c3", "63 05 01 02 05 ff ff 6e"}));
     EXPECT_EQ(sim().rfRegister(0x3A), 0x1F00);
 
@@ -49,7 +50,8 @@ TEST_F(ServicePanelsTest, RegistersWrittenIntoTheChipAreReadBack) {
     panel.grid.row(1).address = "5";
     panel.grid.row(2).address = "3A";
     panel.grid.row(3).address = "40";
-    EXPECT_EQ(run(panel, [&] { return panel.readRfic(); }), QStringList{"box: REG 读 OK!! | RF Reg"});
+    EXPECT_EQ(run(panel, [&] { return panel.readRfic(); }),
+              QStringList{"box: REG 读 OK!! | RF Reg"});
     EXPECT_EQ(panel.grid.row(1), (RegisterRow{"5", "FFFF"}));
     EXPECT_EQ(panel.grid.row(2), (RegisterRow{"3A", "1F00"}));
     EXPECT_EQ(panel.grid.row(3), (RegisterRow{"40", hexText(sim().rfRegister(0x40))}));
@@ -65,7 +67,8 @@ TEST_F(ServicePanelsTest, TheEepromTableIsSavedReadAndCleared) {
     EXPECT_EQ(sim().eepromRowCount(), 2);
 
     panel.grid = {};
-    EXPECT_EQ(run(panel, [&] { return panel.readEeprom(); }), QStringList{"box: REG 读 OK!! | RF Reg"});
+    EXPECT_EQ(run(panel, [&] { return panel.readEeprom(); }),
+              QStringList{"box: REG 读 OK!! | RF Reg"});
     EXPECT_EQ(panel.grid.row(1), (RegisterRow{"10", "1234"}));
     EXPECT_EQ(panel.grid.row(2), (RegisterRow{"11", "5"}));
     EXPECT_EQ(panel.grid.row(10), (RegisterRow{"0", "0"}));
@@ -127,7 +130,8 @@ TEST_F(ServicePanelsTest, AnUnansweredRowEndsTheWriteAfterOneAttempt) {
     panel.grid.row(2) = {"3", "4"};
     panel.grid.row(3) = {"5", "6"};
     silence({2});
-    EXPECT_EQ(run(panel, [&] { return panel.saveEeprom(); }), QStringList{"box: 请检查串口!! | Reg"});
+    EXPECT_EQ(run(panel, [&] { return panel.saveEeprom(); }),
+              QStringList{"box: 请检查串口!! | Reg"});
     EXPECT_EQ(requests.size(), 2u);
 }
 
@@ -137,7 +141,9 @@ TEST_F(ServicePanelsTest, CalibrationWrittenIsReadBack) {
     panel.values[CalibrationField::PowerHigh] = "128";
     panel.values[CalibrationField::NoiseWide] = "0";
     EXPECT_EQ(run(panel, [&] { return panel.write(); }), QStringList{"box: OK | Adjust"});
-    EXPECT_EQ(sim().calibrationRecord().toHex(), "80236428800035" "00");
+    EXPECT_EQ(sim().calibrationRecord().toHex(),
+              "80236428800035"
+              "00");
 
     CalibrationPanel other(channel);
     other.values[CalibrationField::RxPwm] = "7";
@@ -184,7 +190,8 @@ TEST_F(ServicePanelsTest, TheBandTableWrittenIsReadBackInFourSegments) {
         panel.table.cell(row, BandTable::RxVoltage) = byteToVoltageText(200 - row);
         panel.table.cell(row, BandTable::Rssi) = QString::number(30 + row);
     }
-    EXPECT_EQ(run(panel, [&] { return panel.write(); }), QStringList{"box: write ok!! | Band info"});
+    EXPECT_EQ(run(panel, [&] { return panel.write(); }),
+              QStringList{"box: write ok!! | Band info"});
     ASSERT_EQ(requests.size(), 4u);
     for (int segment = 0; segment < 4; ++segment) {
         EXPECT_EQ(static_cast<int>(requests[static_cast<size_t>(segment)].second[2]), segment);
@@ -257,11 +264,11 @@ TEST_F(ServicePanelsTest, ASecondOperationWhileOneWaitsIsRefused) {
     EXPECT_FALSE(band.read());
     EXPECT_EQ(band.outcome(), ServiceOutcome::Refused);
     clock.advanceUntil([&] { return !crystal.isRunning(); }, kLongEnough);
-    EXPECT_EQ(prompts.transcript(),
-              QStringList({"box: " + l10n::programText(l10n::ProgramText::LinkBusy,
-                                                        UiLanguage::English) +
-                               " | NOTE | warning",
-                           "box: 读 OK!! | 晶体修正"}));
+    EXPECT_EQ(
+        prompts.transcript(),
+        QStringList({"box: " + l10n::programText(l10n::ProgramText::LinkBusy, UiLanguage::English) +
+                         " | NOTE | warning",
+                     "box: 读 OK!! | 晶体修正"}));
     EXPECT_EQ(running, (std::vector<bool>{true, false}));
     EXPECT_EQ(requests.size(), 1u);
 

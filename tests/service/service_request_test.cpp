@@ -1,5 +1,7 @@
 // Every request the panels build, byte for byte.
 
+#include "service/service_request.h"
+
 #include <gtest/gtest.h>
 
 #include "service/band_table.h"
@@ -7,7 +9,6 @@
 #include "service/crystal.h"
 #include "service/register_grid.h"
 #include "service/service_protocol.h"
-#include "service/service_request.h"
 
 namespace {
 
@@ -36,8 +37,8 @@ TEST(ServiceRequests, HoldTheirBytes) {
         {"the fifth byte set", pack_pc_cmd_byte(0x65, 0x09, {0, 0}), "65 03 00 00 09 71"},
         {"test mode start", pack_Data_Cmd(0x66, {1, 0, 0}, {0, 0}), "66 05 00 00 01 00 00 6c"},
         {"no data", pack_Data_Cmd(0x64, {}, {2, 3}), "64 02 02 03 6b"},
-        {"28 data bytes fill the buffer", pack_Data_Cmd(0x64, std::vector<quint8>(28, 1), {}).left(2),
-         "64 1e"},
+        {"28 data bytes fill the buffer",
+         pack_Data_Cmd(0x64, std::vector<quint8>(28, 1), {}).left(2), "64 1e"},
         {"29 do not fit", pack_Data_Cmd(0x64, std::vector<quint8>(29, 1), {}), ""},
         {"Write RFIC, one row", build_reg_row(service::kRficWrite, {0, 1}, row(0x3A, 0x1F00)),
          "63 05 00 01 3a 1f 00 c2"},
@@ -47,7 +48,8 @@ TEST(ServiceRequests, HoldTheirBytes) {
         {"calibration write, initial values",
          calibrationWriteRequest(CalibrationValues(), 0, 0, UiLanguage::English).frame,
          "59 0a 00 00 46 23 2a 28 80 00 35 35 08"},
-        {"calibration write, typed", calibrationWriteRequest(typed, 0, 0, UiLanguage::English).frame,
+        {"calibration write, typed",
+         calibrationWriteRequest(typed, 0, 0, UiLanguage::English).frame,
          "59 0a 00 00 46 22 64 28 80 00 35 35 41"},
         {"crystal read", crystalReadRequest({0, 0}), "6d 03 00 00 05 75"},
         {"crystal write -3", crystalWriteRequest("-3", {0, 0}, UiLanguage::English).frame,

@@ -1,8 +1,8 @@
 // The command line's name=value lines: what a read prints, a write takes back.
 
-#include <gtest/gtest.h>
-
 #include "service/value_lines.h"
+
+#include <gtest/gtest.h>
 
 namespace {
 
@@ -26,8 +26,8 @@ TEST(ValueLines, WhatAReadPrintsAWriteTakesBack) {
     values[CalibrationField::NoiseWide] = "0";
     values[CalibrationField::RxPwm] = "1";
     CalibrationValues calibrationBack;
-    ASSERT_TRUE(applyCalibrationValues(assignments(calibrationValueLines(values)),
-                                       &calibrationBack, &error));
+    ASSERT_TRUE(applyCalibrationValues(assignments(calibrationValueLines(values)), &calibrationBack,
+                                       &error));
     values[CalibrationField::RxPwm] = CalibrationValues()[CalibrationField::RxPwm];
     EXPECT_EQ(calibrationBack.text, values.text);
 
@@ -36,8 +36,8 @@ TEST(ValueLines, WhatAReadPrintsAWriteTakesBack) {
     table.cell(1, 1) = "1.7";
     EXPECT_EQ(bandValueLines(table).size(), 45);
     BandTable bandBack;
-    ASSERT_TRUE(applyBandValues(assignments(bandValueLines(table, BandTable::kRows)), &bandBack,
-                                &error));
+    ASSERT_TRUE(
+        applyBandValues(assignments(bandValueLines(table, BandTable::kRows)), &bandBack, &error));
     EXPECT_EQ(bandBack, table);
 }
 
@@ -46,8 +46,8 @@ TEST(ValueLines, UnknownNamesChangeNothing) {
         const char* line;
         int panel;  // 0 registers, 1 calibration, 2 band
     } cases[] = {
-        {"addr11=1", 0}, {"addr0=1", 0}, {"value1=1", 0}, {"rx-pwm=3", 1}, {"rssi=3", 1},
-        {"tx21=1", 2},   {"tx=1", 2},    {"rssi-narrow=1", 2},
+        {"addr11=1", 0}, {"addr0=1", 0}, {"value1=1", 0}, {"rx-pwm=3", 1},
+        {"rssi=3", 1},   {"tx21=1", 2},  {"tx=1", 2},     {"rssi-narrow=1", 2},
     };
     for (const auto& c : cases) {
         // A good name first, which must not be applied either.
