@@ -45,6 +45,9 @@ int main(int argc, char** argv) {
     std::vector<int> badChecksum, garbage, cut, wrongLength;
     int hangUp = 0;
     bool noise = false;
+    int eraseMs = SimBootloader::kDefaultEraseMs;
+    bool notInBootMode = false;
+    int corruptReadBlock = 0;
     cli.set_version_flag("--version", "radiosim " RADIOPROG_VERSION);
     cli.add_flag("--pace", pace, "pace both directions at 9600 baud");
     cli.add_option("--latency", latency, "reply latency in ms")->check(CLI::Range(0, 60000));
@@ -56,6 +59,11 @@ int main(int argc, char** argv) {
     cli.add_option("--hang-up", hangUp,
                    "drop the line when this request arrives (27: right after a write's closing E)");
     cli.add_flag("--noise", noise, "answer nothing and fill the line with random bytes");
+    cli.add_option("--erase-ms", eraseMs, "time the boot loader takes to erase")
+        ->check(CLI::Range(0, 60000));
+    cli.add_flag("--not-in-boot-mode", notInBootMode, "the boot loader answers nothing");
+    cli.add_option("--corrupt-read-block", corruptReadBlock,
+                   "flip a bit in this block of every boot loader read (counted from 1)");
     cli.add_option("--trace", tracePath, "log every frame both ways as hex");
     CLI11_PARSE(cli, argc, argv);
 
@@ -78,11 +86,14 @@ int main(int argc, char** argv) {
     faults.wrongLength = requestSet(wrongLength);
     faults.hangUpAt = hangUp;
     faults.noise = noise;
+    faults.notInBootMode = notInBootMode;
+    faults.corruptReadBlock = corruptReadBlock;
 
     SteadyClock clock;
     SimRadio radio(clock);
     radio.setFaults(faults);
     radio.setLatencyMs(latency);
+    radio.bootloader().setEraseMs(eraseMs);
 
     QFile traceFile(QString::fromStdString(tracePath));
     QTextStream trace(&traceFile);

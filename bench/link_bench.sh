@@ -21,23 +21,8 @@ while (($#)); do
     esac
 done
 
-nice scripts/build.sh "$build" -DCMAKE_BUILD_TYPE=Release -DBUILD_TESTING=OFF
-cli=$build/app/radioprog-cli
-sim=$build/app/radiosim
-
-work=$(mktemp -d)
-sim_pid=
-cleanup() {
-    [ -n "$sim_pid" ] && kill "$sim_pid" 2>/dev/null && wait "$sim_pid" 2>/dev/null
-    rm -rf "$work"
-}
-trap cleanup EXIT
-
-"$sim" --pace --latency "$latency" --trace "$work/trace" >"$work/sim.out" &
-sim_pid=$!
-for _ in $(seq 50); do [ -s "$work/sim.out" ] && break; sleep 0.1; done
-device=$(head -n1 "$work/sim.out")
-[ -n "$device" ] || { echo "radiosim did not start" >&2; exit 1; }
+. bench/radiosim.sh
+start_radiosim --latency "$latency"
 
 # A plan to write: the simulated radio's own, read once through the in-process simulator.
 "$cli" --config "$work" read --port sim -o "$work/plan.qzv" >/dev/null 2>&1

@@ -3,8 +3,10 @@
 # so that a second run is quiet and quick.
 set -euo pipefail
 
+# Xvfb, xauth and a CJK font: the desktop program's screenshots and benchmark run under a
+# virtual X server, and Chinese captions must render as text rather than boxes.
 packages=(cmake ninja-build g++ pkg-config qt6-base-dev qt6-serialport-dev
-          libcli11-dev libgtest-dev "$@")
+          libcli11-dev libgtest-dev xvfb xauth fonts-wqy-microhei "$@")
 
 missing=()
 for p in "${packages[@]}"; do

@@ -35,4 +35,5 @@ void addConvertCommand(CLI::App& app, const GlobalOptions& global, CommandRunner
 void addPortsCommand(CLI::App& app, const GlobalOptions& global, CommandRunner& run);
 void addReadCommand(CLI::App& app, const GlobalOptions& global, CommandRunner& run);
 void addWriteCommand(CLI::App& app, const GlobalOptions& global, CommandRunner& run);
+void addFirmwareCommand(CLI::App& app, const GlobalOptions& global, CommandRunner& run);
 void addServiceCommand(CLI::App& app, const GlobalOptions& global, CommandRunner& run);

@@ -40,6 +40,7 @@ int main(int argc, char** argv) {
     addPortsCommand(app, global, run);
     addReadCommand(app, global, run);
     addWriteCommand(app, global, run);
+    addFirmwareCommand(app, global, run);
     addServiceCommand(app, global, run);
 
     try {

@@ -4,11 +4,7 @@
 
 #include "cli/console_session_view.h"
 #include "cli/session_runner.h"
-#include "link/link_transport.h"
-#include "link/port_control.h"
 #include "platform/qt_serial_port.h"
-#include "platform/steady_clock.h"
-#include "platform/stream_prompts.h"
 #include "sim/simulated_radio_port.h"
 
 std::optional<PortArgument> parsePortOption(const std::string& text) {
@@ -17,24 +13,27 @@ std::optional<PortArgument> parsePortOption(const std::string& text) {
     return port;
 }
 
-SessionOutcome runSessionOnPort(const GlobalOptions& global, const PortArgument& portArgument,
-                                UiLanguage language, const SessionFactory& makeSession) {
-    SteadyClock clock;
-    StreamPrompts prompts(stderr);
-    ConsoleSessionView view(stderr);
-    std::unique_ptr<SerialPort> port;
+RadioLine::RadioLine(const GlobalOptions& global, const PortArgument& portArgument,
+                     UiLanguage language) {
     if (portArgument.kind == PortArgument::Simulator) {
         port = SimulatedRadioPort::create(clock);
     } else {
         port = std::make_unique<QtSerialPort>();
     }
-    PortControl control(*port, global.portCatalogue(), prompts, language);
-    control.select(portArgument, QString::fromLatin1(SimulatedPort::kDefaultDevice));
+    control = std::make_unique<PortControl>(*port, global.portCatalogue(), prompts, language);
+    control->select(portArgument, QString::fromLatin1(SimulatedPort::kDefaultDevice));
+    transport = std::make_unique<LinkTransport>(*port, clock);
+    QObject::connect(transport.get(), &LinkTransport::portLost, [this] { control->portLost(); });
+}
 
-    LinkTransport transport(*port, clock);
-    QObject::connect(&transport, &LinkTransport::portLost, [&control] { control.portLost(); });
-    const std::unique_ptr<RadioSession> session = makeSession(transport, prompts, view);
+RadioLine::~RadioLine() = default;
+
+SessionOutcome runSessionOnPort(const GlobalOptions& global, const PortArgument& portArgument,
+                                UiLanguage language, const SessionFactory& makeSession) {
+    RadioLine line(global, portArgument, language);
+    ConsoleSessionView view(stderr);
+    const std::unique_ptr<RadioSession> session = makeSession(*line.transport, line.prompts, view);
     const SessionOutcome outcome = runToEnd(*session, [&] { return session->start(); });
-    if (outcome != SessionOutcome::Refused) control.showPortState();
+    if (outcome != SessionOutcome::Refused) line.control->showPortState();
     return outcome;
 }

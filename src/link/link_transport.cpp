@@ -42,15 +42,17 @@ void LinkTransport::send_uart(const QByteArray& frame) {
     ++requestSerial_;
     frame_ = frame;
     awaitReply_ = false;
+    style_ = SendStyle::Settled;
     transmit();
 }
 
 void LinkTransport::request(const QByteArray& frame, int replyTimeoutMs, int attempts,
-                            ReplyLengths accepted) {
+                            ReplyLengths accepted, SendStyle style) {
     if (!owner_) return;
     ++requestSerial_;
     frame_ = frame;
     awaitReply_ = true;
+    style_ = style;
     replyTimeoutMs_ = replyTimeoutMs;
     accepted_ = accepted;
     attempts_ = std::max(1, attempts);
@@ -70,7 +72,8 @@ void LinkTransport::abort() {
 }
 
 void LinkTransport::transmit() {
-    Q_ASSERT(frame_.size() <= kSendBufferSize);
+    Q_ASSERT(frame_.size() <=
+             (style_ == SendStyle::Settled ? kSendBufferSize : kBootSendBufferSize));
     replyTimer_->stop();
     if (!port_.isOpen()) {
         // Nothing goes out; the requester learns of it by its time-out.
@@ -80,7 +83,7 @@ void LinkTransport::transmit() {
         owner_->portClosedOnSend();
         return;
     }
-    port_.setReceiveNotification(false);
+    port_.setReceiveNotification(style_ == SendStyle::Immediate);
     port_.discardOutput();
     // One write per byte, as the radio's firmware has always been fed.
     for (char byte : frame_) port_.write(QByteArray(1, byte));
@@ -93,6 +96,11 @@ void LinkTransport::onDrained() {
 }
 
 void LinkTransport::startSettle() {
+    if (style_ == SendStyle::Immediate) {
+        phase_ = Phase::AwaitingReply;
+        armAttempt();
+        return;
+    }
     phase_ = Phase::Settling;
     settleStart_ = clock_.nowMs();
     settleTimer_->start(kSettleMs);
@@ -128,7 +136,6 @@ void LinkTransport::armAttempt() {
 }
 
 void LinkTransport::armUntil(qint64 deadlineMs) {
-    deadlineMs_ = deadlineMs;
     replyTimer_->start(static_cast<int>(std::max<qint64>(0, deadlineMs - clock_.nowMs())));
 }
 
@@ -169,17 +176,13 @@ bool LinkTransport::parseInput(QByteArray* reply) {
 
 void LinkTransport::onReceived() {
     const bool awaiting = phase_ == Phase::AwaitingReply;
-    if (awaiting) replyTimer_->stop();
     QByteArray reply;
     const bool replyReady = parseInput(&reply);
-    if (!awaiting || phase_ != Phase::AwaitingReply) return;
-    if (replyReady) {
-        phase_ = Phase::Idle;
-        if (owner_) owner_->replyReceived(reply);
-        return;
-    }
-    // Bytes do not move the deadline.
-    armUntil(deadlineMs_);
+    // Bytes do not move the deadline: only the reply ends the wait.
+    if (!awaiting || phase_ != Phase::AwaitingReply || !replyReady) return;
+    replyTimer_->stop();
+    phase_ = Phase::Idle;
+    if (owner_) owner_->replyReceived(reply);
 }
 
 void LinkTransport::onReplyTimer() {

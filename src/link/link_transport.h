@@ -31,6 +31,13 @@ class LinkTransport : public QObject {
 
 public:
     static constexpr int kSendBufferSize = 33;
+    static constexpr int kBootSendBufferSize = 161;  // the boot loader's frames are longer
+
+    // How a frame goes on the line. Settled (send_uart): receive events off while sending,
+    // then 20 ms after the drain, with whatever arrived meanwhile discarded. Immediate
+    // (send_uart_data, the boot loader's way): receive events stay on and the reply is
+    // awaited as soon as the line has drained.
+    enum class SendStyle { Settled, Immediate };
     static constexpr int kSettleMs = 20;
     // A fresh attempt count allows three attempts; the radio's tool expressed one attempt as
     // "counter preset to 2" and three as "counter zeroed".
@@ -57,7 +64,8 @@ public:
     void send_uart(const QByteArray& frame);
     // Transmits `frame` and awaits a reply of one of the `accepted` lengths for
     // `replyTimeoutMs`, sending it again on each time-out, `attempts` times in all.
-    void request(const QByteArray& frame, int replyTimeoutMs, int attempts, ReplyLengths accepted);
+    void request(const QByteArray& frame, int replyTimeoutMs, int attempts, ReplyLengths accepted,
+                 SendStyle style = SendStyle::Settled);
     // What the last request left of its attempts: at least one. A requester that carries on
     // "with the count the previous exchange left" asks for this many.
     int attemptsLeft() const;
@@ -108,9 +116,9 @@ private:
     // The request under way.
     QByteArray frame_;
     bool awaitReply_ = false;
+    SendStyle style_ = SendStyle::Settled;
     int replyTimeoutMs_ = 0;
     ReplyLengths accepted_ = ReplyLengths::any();
-    qint64 deadlineMs_ = 0;    // of the attempt under way
     qint64 frameStartMs_ = 0;  // when the frame or line being received began
     bool lineUnderWay_ = false;
     bool deadlineExtended_ = false;

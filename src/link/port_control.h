@@ -17,6 +17,7 @@ class PortControl {
 public:
     static constexpr int kScannedPorts = 16;
     static constexpr int kComxItem = 17;  // the menu item for numbers outside 1..16
+    static constexpr int kComxDialogItems = 65;  // the "COM X" dialog offers "0" .. "64"
 
     PortControl(SerialPort& port, PortCatalogue catalogue, Prompts& prompts, UiLanguage language);
 

@@ -3,6 +3,7 @@
 #include <QString>
 
 #include "model/codeplug.h"
+#include "model/editing.h"
 #include "model/notice.h"
 
 // Rules of the small dialog that edits a slot's custom CTCSS tone.
@@ -21,8 +22,6 @@ QString formatCustomTone(const QString& text);
 
 // Valid when not empty and 67.0 <= f < 255.0.
 bool ChkCtcOk_Int(const QString& text);
-
-enum class CodeDirection { Rx, Tx };
 
 struct CustomToneResult {
     QString fieldText;  // what the dialog's field shows after OK

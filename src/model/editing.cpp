@@ -130,8 +130,28 @@ bool setChannelCount(Codeplug& doc, const QString& chtot) {
 
 void applyLanguage(Codeplug& doc, UiLanguage language) {
     doc.language = language;
-    // The bandwidth and power columns go back to the configuration's start values.
-    applyPresetWords(doc);
+    // Each row keeps what it holds, in the new language's words: going back to the
+    // configuration's start values would silently undo edits, reads and loads.
+    for (ChannelRecord& ch : doc.plan) {
+        ch.band = isNarrowWord(ch.band) ? narrowWord(language) : wideWord(language);
+        ch.power = isHighPowerWord(ch.power) ? highPowerWord(language) : lowPowerWord(language);
+    }
     if (doc.settings[SettingKey::normalmode] == 1) doc.codeTable = ProfessionalCodeTable(language);
     RESET_TEXT(doc);
+}
+
+bool frequencyCellClicked(Codeplug& doc, int slot, CodeDirection direction) {
+    if (direction == CodeDirection::Rx && doc.plan[slot].rxfreq.size() != kCompleteLength) {
+        return false;
+    }
+    RESET_TEXT(doc);
+    return true;
+}
+
+bool pickCode(Codeplug& doc, int slot, CodeDirection direction, int position) {
+    ChannelRecord& ch = doc.plan[slot];
+    (direction == CodeDirection::Rx ? ch.rxctc : ch.txctc) = codeText(doc.codeTable, position);
+    RESET_TEXT(doc);
+    return doc.settings[SettingKey::normalmode] == 1 &&
+           position == kProfessionalCustomTonePosition;
 }

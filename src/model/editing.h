@@ -5,6 +5,8 @@
 #include "model/codeplug.h"
 #include "model/notice.h"
 
+enum class CodeDirection { Rx, Tx };
+
 // Editing rules of the channel grid, as document operations.
 
 // A receive frequency cell changed to `text`: a 9-character text is copied to the transmit
@@ -40,7 +42,17 @@ bool switchMode(Codeplug& doc, int normalmode);
 // The user chose another channel count; ignored while the channels are fixed.
 bool setChannelCount(Codeplug& doc, const QString& chtot);
 
-// Switches the language: bandwidth and power cells are rewritten from the start values of the
-// configuration, a professional code table gets the new custom-tone word, and the code cells
-// are redrawn. The settings keep their indices.
+// Switches the language: every row's bandwidth and power words are translated (a row edited
+// to wide stays wide; an unknown word counts as wide or low), a professional code table gets
+// the new custom-tone word, and the code cells are redrawn. The settings keep their indices.
 void applyLanguage(Codeplug& doc, UiLanguage language);
+
+// A click on a frequency cell reformats the whole grid (RESET_TEXT): always for a transmit
+// cell, for a receive cell only when it holds a complete 9-character text. Returns whether it
+// did.
+bool frequencyCellClicked(Codeplug& doc, int slot, CodeDirection direction);
+
+// The user picked entry `position` of the active code list for a slot's code cell; the code
+// cells are redrawn. Returns true when the pick is the custom-tone entry of the professional
+// list, for which the custom tone dialog opens.
+bool pickCode(Codeplug& doc, int slot, CodeDirection direction, int position);

@@ -13,6 +13,10 @@ struct SimFaults {
     QSet<int> wrongLength;  // the reply carries one byte too many
     int hangUpAt = 0;       // the line drops when this request arrives (0: never)
     bool noise = false;     // answers nothing and keeps the line full of random bytes
+    // The boot loader: not listening at all (the radio was not started in boot mode), and a
+    // bit flipped in the k-th block of a read (counted from 1 after each start of read).
+    bool notInBootMode = false;
+    int corruptReadBlock = 0;
 
     bool silentFor(int request) const { return silentAlways || noise || silent.contains(request); }
 };

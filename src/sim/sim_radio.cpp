@@ -115,6 +115,14 @@ void SimRadio::handleRequest(quint8 command, const QByteArray& payload) {
     // A request the radio does not hear changes nothing.
     if (faults_.silentFor(request)) return;
 
+    if (SimBootloader::handles(command)) {
+        if (const auto answer = bootloader_.handle(command, payload, faults_)) {
+            reply(answer->payload.isEmpty() ? kAcknowledge : kRecordReply, answer->payload,
+                  answer->delayMs);
+        }
+        return;
+    }
+
     const int block = byteAt(payload, 0);
     const int size = static_cast<int>(payload.size());
     const int recordSize = size - kAddressBytes;
@@ -149,7 +157,7 @@ void SimRadio::handleRequest(quint8 command, const QByteArray& payload) {
     }
 }
 
-void SimRadio::reply(quint8 command, const QByteArray& payload) {
+void SimRadio::reply(quint8 command, const QByteArray& payload, int extraDelayMs) {
     const int request = requestCount_;
     QByteArray body = payload;
     QString faults;
@@ -170,7 +178,7 @@ void SimRadio::reply(quint8 command, const QByteArray& payload) {
         bytes.prepend(kGarbage);
         faults += QStringLiteral(" garbage");
     }
-    queue(bytes, faults.trimmed());
+    queue(bytes, faults.trimmed(), extraDelayMs);
 }
 
 void SimRadio::answerService(quint8 command, const QByteArray& payload) {
@@ -190,9 +198,10 @@ void SimRadio::answerService(quint8 command, const QByteArray& payload) {
     }
 }
 
-void SimRadio::queue(const QByteArray& bytes, const QString& note) {
-    pending_.push_back({clock_.nowMs() + latencyMs_, bytes, note});
-    if (!replyTimer_->isActive()) replyTimer_->start(latencyMs_);
+void SimRadio::queue(const QByteArray& bytes, const QString& note, int extraDelayMs) {
+    const int delayMs = latencyMs_ + extraDelayMs;
+    pending_.push_back({clock_.nowMs() + delayMs, bytes, note});
+    if (!replyTimer_->isActive()) replyTimer_->start(delayMs);
 }
 
 void SimRadio::sendDue() {

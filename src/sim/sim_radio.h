@@ -8,6 +8,7 @@
 #include <memory>
 
 #include "platform/clock.h"
+#include "sim/sim_bootloader.h"
 #include "sim/sim_faults.h"
 #include "sim/sim_service.h"
 
@@ -55,6 +56,7 @@ public:
         channels_.at(static_cast<size_t>(slot)) = record;
     }
 
+    SimBootloader& bootloader() { return bootloader_; }
     SimService& service() { return service_; }
 
     int requestCount() const { return requestCount_; }
@@ -64,9 +66,9 @@ public:
 private:
     void feed(quint8 byte);
     void handleRequest(quint8 command, const QByteArray& payload);
-    void reply(quint8 command, const QByteArray& payload);
+    void reply(quint8 command, const QByteArray& payload, int extraDelayMs = 0);
     void answerService(quint8 command, const QByteArray& payload);
-    void queue(const QByteArray& bytes, const QString& note);
+    void queue(const QByteArray& bytes, const QString& note, int extraDelayMs = 0);
     void sendDue();
     void sendNoise();
     void note(TraceKind kind, const QByteArray& bytes, const QString& text = {});
@@ -78,6 +80,7 @@ private:
     SimFaults faults_;
     int latencyMs_ = kDefaultLatencyMs;
 
+    SimBootloader bootloader_;
     QByteArray settings_;
     std::array<QByteArray, kChannelCount> channels_;
     SimService service_;

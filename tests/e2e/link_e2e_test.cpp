@@ -14,6 +14,7 @@
 #include "model/code_tables.h"
 #include "model/editing.h"
 #include "persistence/codeplug_file.h"
+#include "radiosim_process.h"
 
 namespace {
 
@@ -23,31 +24,8 @@ struct CliRun {
     QString err;
 };
 
-class LinkEndToEnd : public ::testing::Test {
+class LinkEndToEnd : public RadiosimTest {
 protected:
-    static void SetUpTestSuite() {
-        static int argc = 1;
-        static char name[] = "link_e2e_test";
-        static char* argv[] = {name, nullptr};
-        if (!QCoreApplication::instance()) new QCoreApplication(argc, argv);
-    }
-
-    void TearDown() override {
-        if (sim_.state() != QProcess::NotRunning) {
-            sim_.terminate();
-            sim_.waitForFinished(5000);
-        }
-    }
-
-    // Starts radiosim with `options` and returns the device it listens on.
-    QString startRadio(const QStringList& options = {}) {
-        sim_.start(QStringLiteral(RADIOSIM_PATH), options);
-        EXPECT_TRUE(sim_.waitForStarted(5000));
-        while (!sim_.canReadLine() && sim_.waitForReadyRead(5000)) {
-        }
-        return QString::fromLocal8Bit(sim_.readLine()).trimmed();
-    }
-
     CliRun cli(const QStringList& arguments) {
         QProcess process;
         process.start(QStringLiteral(CLI_PATH),
@@ -88,7 +66,6 @@ protected:
     }
 
     QTemporaryDir dir_;
-    QProcess sim_;
 };
 
 QStringList lines(const QString& text) {
@@ -215,8 +192,7 @@ TEST_F(LinkEndToEnd, TerminationAndHangUpCancelAWriteAndSaySo) {
             << err.toStdString();
         EXPECT_TRUE(said.contains("message [NOTE]: Write Error，Please Check"))
             << err.toStdString();
-        sim_.terminate();
-        sim_.waitForFinished(5000);
+        stopRadio();
     }
 }
 

@@ -2,12 +2,11 @@
 // write sends is what a later read returns, and the read's lines go back into a write as they
 // are.
 
-#include <gtest/gtest.h>
-
-#include <QCoreApplication>
 #include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
+
+#include "radiosim_process.h"
 
 namespace {
 
@@ -17,31 +16,14 @@ struct CliRun {
     QString err;
 };
 
-class ServiceEndToEnd : public ::testing::Test {
+class ServiceEndToEnd : public RadiosimTest {
 protected:
-    static void SetUpTestSuite() {
-        static int argc = 1;
-        static char name[] = "service_e2e_test";
-        static char* argv[] = {name, nullptr};
-        if (!QCoreApplication::instance()) new QCoreApplication(argc, argv);
-    }
+    void SetUp() override { startTracedRadio(); }
 
-    void SetUp() override { startRadio(); }
-
-    void startRadio(const QStringList& faults = {}) {
-        if (sim_.state() != QProcess::NotRunning) TearDown();
-        sim_.start(QStringLiteral(RADIOSIM_PATH),
-                   QStringList{"--pace", "--trace", path("trace.txt")} + faults);
-        ASSERT_TRUE(sim_.waitForStarted(5000));
-        while (!sim_.canReadLine() && sim_.waitForReadyRead(5000)) {
-        }
-        device_ = QString::fromLocal8Bit(sim_.readLine()).trimmed();
+    void startTracedRadio(const QStringList& faults = {}) {
+        stopRadio();
+        device_ = startRadio(QStringList{"--pace", "--trace", path("trace.txt")} + faults);
         ASSERT_TRUE(device_.startsWith("/dev/")) << device_.toStdString();
-    }
-
-    void TearDown() override {
-        sim_.terminate();
-        sim_.waitForFinished(5000);
     }
 
     // radioprog-cli service --port <radiosim> PANEL ACTION ARGS...
@@ -71,7 +53,6 @@ protected:
     QString path(const char* name) const { return dir_.filePath(QString::fromLatin1(name)); }
 
     QTemporaryDir dir_;
-    QProcess sim_;
     QString device_;
 };
 
@@ -152,7 +133,7 @@ TEST_F(ServiceEndToEnd, AValueThatDoesNotFitIsRefusedBeforeAnythingIsSent) {
 }
 
 TEST_F(ServiceEndToEnd, ASilentRadioGetsThreeAttemptsAndOneMessage) {
-    startRadio({"--silent", "all"});
+    startTracedRadio({"--silent", "all"});
     const CliRun read = service({"crystal", "read"});
     EXPECT_EQ(read.exitCode, 1);
     EXPECT_TRUE(read.out.isEmpty());

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "model/code_tables.h"
 #include "model/codeplug.h"
 #include "model/editing.h"
 
@@ -157,21 +158,70 @@ TEST(Toggles, BandwidthAndPowerFlipUnlessFixed) {
     EXPECT_EQ(doc.plan[0].power, "high");
 }
 
-TEST(Language, SwitchRewritesWordsFromTheStartValues) {
+TEST(Language, SwitchTranslatesWhatEachRowHolds) {
     StartupConfig config;
-    config.presets.bandwidth[1] = "wide";
+    config.presets.bandwidth[0] = QString::fromUtf8("窄带");
     config.presets.power[1] = "low";
     Codeplug doc = buildStartupCodeplug(config);
     switchMode(doc, 1);
-    doc.plan[0].band = QString::fromUtf8("宽带");  // edited after start-up: reset by the switch
+    doc.plan[0].band = QString::fromUtf8("宽带");  // edited after start-up: kept
+    doc.plan[1].power = QString::fromUtf8("大");
+    doc.plan[2].band = "narrow";  // a file's English word in a Chinese document
+    doc.plan[3].band = "???";     // unknown words count as wide and low
+    doc.plan[3].power = "???";
     doc.plan[5].rxctc = QString::fromUtf8("自定义");
 
     applyLanguage(doc, UiLanguage::English);
-    EXPECT_EQ(doc.plan[0].band, "narrow");
-    EXPECT_EQ(doc.plan[1].band, "wide");
-    EXPECT_EQ(doc.plan[1].power, "low");
+    EXPECT_EQ(doc.plan[0].band, "wide");
+    EXPECT_EQ(doc.plan[1].power, "high");
+    EXPECT_EQ(doc.plan[2].band, "narrow");
+    EXPECT_EQ(doc.plan[3].band, "wide");
+    EXPECT_EQ(doc.plan[3].power, "low");
     EXPECT_EQ(doc.plan[5].rxctc, "Custom");
     EXPECT_EQ(doc.codeTable[266], "Custom");
+
+    applyLanguage(doc, UiLanguage::Chinese);
+    EXPECT_EQ(doc.plan[0].band, QString::fromUtf8("宽带"));
+    EXPECT_EQ(doc.plan[1].power, QString::fromUtf8("大"));
+    EXPECT_EQ(doc.plan[2].band, QString::fromUtf8("窄带"));
+}
+
+TEST(CellClicks, ReceiveReformatsOnlyWhenCompleteTransmitAlways) {
+    struct Case {
+        CodeDirection direction;
+        const char* rx;
+        const char* tx;
+        bool reformatted;
+        const char* rxAfter;
+        const char* txAfter;
+    };
+    const Case cases[] = {
+        {CodeDirection::Rx, "400", "446.003", false, "400", "446.003"},
+        {CodeDirection::Rx, "446.00300", "446.003", true, "446.00000", "446.00000"},
+        {CodeDirection::Tx, "400", "446.003", true, "400.00000", "446.00000"},
+    };
+    for (const Case& c : cases) {
+        Codeplug doc = startup();
+        doc.plan[4].rxfreq = c.rx;
+        doc.plan[4].txfreq = c.tx;
+        EXPECT_EQ(frequencyCellClicked(doc, 4, c.direction), c.reformatted) << c.rx;
+        EXPECT_EQ(doc.plan[4].rxfreq, c.rxAfter);
+        EXPECT_EQ(doc.plan[4].txfreq, c.txAfter);
+    }
+}
+
+TEST(CodePicks, TheProfessionalCustomEntryAsksForATone) {
+    Codeplug doc = startup();
+    EXPECT_FALSE(pickCode(doc, 2, CodeDirection::Tx, 1));
+    EXPECT_EQ(doc.plan[2].txctc, "67.0");
+
+    switchMode(doc, 1);
+    EXPECT_TRUE(pickCode(doc, 2, CodeDirection::Rx, kProfessionalCustomTonePosition));
+    EXPECT_EQ(doc.plan[2].rxctc, QString::fromUtf8("自定义"));
+    EXPECT_EQ(doc.plan[2].rxCodeToolTip, "67.0");
+    EXPECT_FALSE(pickCode(doc, 2, CodeDirection::Rx, kProfessionalCdcssPosition));
+    EXPECT_EQ(doc.plan[2].rxctc, "CDCSS");
+    EXPECT_EQ(doc.plan[2].rxCodeToolTip, "D023");
 }
 
 TEST(ChannelCount, EditableSlotsFollowChtot) {

@@ -1,0 +1,56 @@
+#pragma once
+
+// Texts of the desktop program's windows that are the same in both languages: they are not in
+// the four bilingual tables, and they stay here so that every text a user sees lives in l10n.
+namespace l10n::fixed {
+
+// The start-up screen.
+inline constexpr const char* kSplashLines[] = {
+    "对讲机写频软件", "版本：2.0.0.0",  "发行日：2018.09", "Radio Progrmming Software",
+    "Ver： 2.0.0.0",  "date： 2018.09",
+};
+
+// Menu items that keep one caption.
+inline constexpr const char* kRateItem = "9600";
+inline constexpr const char* kModelItem = "------";
+inline constexpr const char* kChineseItem = "中文";
+inline constexpr const char* kEnglishItem = "English";
+inline constexpr const char* kComxItem = "comx";
+inline constexpr const char* kComItemPrefix = "com";
+inline constexpr const char* kRegisterTestItem = "RFReg_Test";
+inline constexpr const char* kHardwareItem = "硬件选择";
+inline constexpr const char* kMp3Item = "Mp3";
+inline constexpr const char* kCrystalItem = "RF 晶体修正";
+inline constexpr const char* kBootLoaderItem = "在线编程";
+
+// The port scan button beside the port list, and the port list's entry for the simulated radio.
+inline constexpr const char* kScanPortsButton = "扫描串口";
+inline constexpr const char* kSimulatorPortItem = "sim";
+inline constexpr const char* kPortListLabel = "COM";
+
+// The "COM X" port picker.
+inline constexpr const char* kPortPickerTitle = "COM X";
+inline constexpr const char* kPortPickerLabel = "COM";
+inline constexpr const char* kPortPickerChoose = "选择";
+
+// The custom tone dialog.
+inline constexpr const char* kCustomToneTitle = "CTCSS";
+inline constexpr const char* kCustomToneOk = "OK";
+
+// File dialogs: codeplug files.
+inline constexpr const char* kCodeplugFilter = "*.qzv (*.qzv)";
+
+// The boot loader window.
+inline constexpr const char* kBootWindowTitle = "在线编程（UART）";
+inline constexpr const char* kBootOperations = "操作对象";
+inline constexpr const char* kBootErase = "程序区擦除";
+inline constexpr const char* kBootWrite = "烧录";
+inline constexpr const char* kBootRead = "读取";
+inline constexpr const char* kBootStartLabel = "起始地址：";
+inline constexpr const char* kBootEndLabel = "结束地址：";
+inline constexpr const char* kBootImageLabel = "选择烧写的目标文件(*.bin)";
+inline constexpr const char* kBootOutputLabel = "设置读取的目标文件的存储路径(*.bin)";
+inline constexpr const char* kBootOpen = "open";
+inline constexpr const char* kBinaryFilter = "*.bin (*.bin)";
+
+}  // namespace l10n::fixed

@@ -1,0 +1,335 @@
+#include "mainwindow/main_window.h"
+
+#include <QActionGroup>
+#include <QComboBox>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QMenuBar>
+#include <QMouseEvent>
+#include <QPushButton>
+#include <QScreen>
+#include <QStatusBar>
+#include <QVBoxLayout>
+
+#include "bootloader/ui/boot_loader_window.h"
+#include "l10n/window_texts.h"
+#include "mainwindow/channel_grid_model.h"
+#include "mainwindow/channel_grid_view.h"
+#include "mainwindow/progress_window.h"
+#include "mainwindow/splash_screen.h"
+
+namespace {
+
+// The window opens at 15800 x 10000 twips; 1440 twips make an inch.
+constexpr double kWidthInches = 15800.0 / 1440.0;
+constexpr double kHeightInches = 10000.0 / 1440.0;
+constexpr int kStatusTimerMs = 1000;
+
+QAction* addNamedAction(QMenu* menu, const char* objectName) {
+    QAction* action = menu->addAction(QString());
+    action->setObjectName(QString::fromLatin1(objectName));
+    return action;
+}
+
+QString fixedText(const char* text) {
+    return QString::fromUtf8(text);
+}
+
+}  // namespace
+
+MainWindow::MainWindow(MainWindowSetup setup, SerialPort& port, Clock& clock,
+                       WindowPrompts& prompts, QWidget* parent)
+    : QMainWindow(parent),
+      doc_(std::move(setup.document)),
+      configPath_(setup.configPath),
+      port_(port),
+      prompts_(prompts),
+      portControl_(port, std::move(setup.catalogue), statusRelay_, doc_.language),
+      transport_(port, clock) {
+    setObjectName(QStringLiteral("Form1"));
+    gridModel_ = new ChannelGridModel(doc_, this);
+    gridModel_->setNoticeHandler([this](const Notices& notices) { showNotices(notices); });
+
+    buildMenus();
+    auto* central = new QWidget(this);
+    auto* layout = new QHBoxLayout(central);
+    layout->addWidget(buildSettingsPanel());
+
+    gridFrame_ = new QGroupBox(central);
+    gridFrame_->setObjectName(QStringLiteral("Frame1"));
+    grid_ = new ChannelGridView(*gridModel_, gridFrame_);
+    grid_->setObjectName(QStringLiteral("MSFlexGrid1"));
+    grid_->delegate().setCustomToneHandler(
+        [this](int slot, CodeDirection direction) { openCustomToneDialog(slot, direction); });
+    auto* gridLayout = new QVBoxLayout(gridFrame_);
+    gridLayout->setContentsMargins(4, 4, 4, 4);
+    gridLayout->addWidget(grid_);
+    layout->addWidget(gridFrame_, 1);
+    layout->addWidget(buildEditPanel());
+    setCentralWidget(central);
+
+    statusPanel_ = new QLabel(this);
+    statusPanel_->setObjectName(QStringLiteral("Panel1"));
+    statusBar()->setObjectName(QStringLiteral("StatusBar1"));
+    statusBar()->addWidget(statusPanel_, 1);
+
+    progress_ = new ProgressWindow(this);
+    progress_->hide();
+    connect(progress_, &ProgressWindow::closedByUser, this, &MainWindow::progressClosedByUser);
+
+    statusTimer_.setParent(this);  // found by name, like the widgets
+    statusTimer_.setObjectName(QStringLiteral("Timer1"));
+    statusTimer_.setSingleShot(true);
+    statusTimer_.setInterval(kStatusTimerMs);
+    connect(&statusTimer_, &QTimer::timeout, this, &MainWindow::statusTimerTick);
+    connect(&transport_, &LinkTransport::portLost, this, [this] {
+        portControl_.showPortState();
+        refreshPortViews();
+    });
+
+    startUp(setup.portToSelect);
+}
+
+MainWindow::~MainWindow() {
+    // A session still under way must not outlive the transport and document it works on.
+    if (session_ && session_->isRunning()) session_->cancel();
+    // Child widgets outlive the members; the grid and its model must go before the document.
+    delete grid_;
+    delete gridModel_;
+    // So does the boot loader window, which cancels its operation on the transport.
+    delete bootLoaderWindow_;
+}
+
+void MainWindow::openBootLoader() {
+    // One window, modeless; it borrows the link while an operation runs.
+    if (!bootLoaderWindow_) {
+        bootLoaderWindow_ = new BootLoaderWindow(transport_, prompts_, doc_.language, this);
+    }
+    bootLoaderWindow_->show();
+    bootLoaderWindow_->raise();
+    bootLoaderWindow_->activateWindow();
+}
+
+void MainWindow::startUp(const std::optional<int>& portToSelect) {
+    portControl_.openFirstScannedPort();
+    // A machine without serial ports is no fault; a port found and then refused is.
+    if (!portControl_.comboItems().isEmpty() && !port_.isOpen()) {
+        prompts_.showMessage(
+            warningBox(l10n::message(l10n::MessageId::MsgPortFault, doc_.language), doc_.language));
+    }
+    if (portToSelect) portControl_.com_sel(*portToSelect);
+    if (!portToSelect || !port_.isOpen()) {
+        Set_StBar(statusRelay_, l10n::MessageId::MsgPortClosed, doc_.language);
+    }
+    RESET_TEXT(doc_);
+
+    const QScreen* screen = this->screen();
+    const double dpi = screen ? screen->logicalDotsPerInch() : 96.0;
+    resize(qRound(kWidthInches * dpi), qRound(kHeightInches * dpi));
+
+    applyCaptions();
+    refreshDocumentViews();
+    refreshPortViews();
+    statusTimer_.start();
+}
+
+void MainWindow::showWithSplash() {
+    show();
+    splash_ = new SplashScreen();
+    splash_->adjustSize();
+    splash_->move(frameGeometry().center() - splash_->rect().center());
+    splash_->show();
+    splash_->raise();
+    splash_->setFocus();
+}
+
+void MainWindow::mousePressEvent(QMouseEvent* event) {
+    if (splash_) splash_->close();
+    QMainWindow::mousePressEvent(event);
+}
+
+void MainWindow::buildMenus() {
+    fileMenu_ = menuBar()->addMenu(QString());
+    fileMenu_->setObjectName(QStringLiteral("MenuFile"));
+    openAction_ = addNamedAction(fileMenu_, "MenuFileOpen");
+    saveAction_ = addNamedAction(fileMenu_, "MenuSave");
+    fileMenu_->addSeparator();
+    exitAction_ = addNamedAction(fileMenu_, "FormCancel");
+    exitAction_->setCheckable(true);  // checked while the exit question is open
+    connect(openAction_, &QAction::triggered, this, &MainWindow::openFile);
+    connect(saveAction_, &QAction::triggered, this, &MainWindow::saveFile);
+    connect(exitAction_, &QAction::triggered, this, [this] {
+        statusTimer_.stop();
+        exitAction_->setChecked(true);
+        close();
+    });
+
+    setupMenu_ = menuBar()->addMenu(QString());
+    setupMenu_->setObjectName(QStringLiteral("chuankoushezhi"));
+    portMenu_ = setupMenu_->addMenu(QString());
+    portMenu_->setObjectName(QStringLiteral("com"));
+    for (int number = 1; number <= PortControl::kScannedPorts; ++number) {
+        QAction* item =
+            portMenu_->addAction(fixedText(l10n::fixed::kComItemPrefix) + QString::number(number));
+        item->setObjectName(QStringLiteral("com%1").arg(number));
+        item->setCheckable(true);
+        connect(item, &QAction::triggered, this, [this, number] { portMenuChosen(number); });
+        portActions_[number] = item;
+    }
+    QAction* comx = portMenu_->addAction(fixedText(l10n::fixed::kComxItem));
+    comx->setObjectName(QStringLiteral("comx"));
+    comx->setCheckable(true);
+    connect(comx, &QAction::triggered, this, &MainWindow::openPortPicker);
+    portActions_[PortControl::kComxItem] = comx;
+
+    rateMenu_ = setupMenu_->addMenu(QString());
+    rateMenu_->setObjectName(QStringLiteral("botelv"));
+    QAction* rate = rateMenu_->addAction(fixedText(l10n::fixed::kRateItem));
+    rate->setCheckable(true);
+    rate->setChecked(true);
+    otherAction_ = addNamedAction(setupMenu_, "qita");
+    setupMenu_->addSeparator();
+    modelMenu_ = setupMenu_->addMenu(QString());
+    modelMenu_->setObjectName(QStringLiteral("jixinxinxi"));
+    QAction* model = modelMenu_->addAction(fixedText(l10n::fixed::kModelItem));
+    model->setCheckable(true);
+    model->setChecked(true);
+    setupMenu_->addSeparator();
+
+    programMenu_ = menuBar()->addMenu(QString());
+    programMenu_->setObjectName(QStringLiteral("xie"));
+    programMenu_->addSeparator();
+    readAction_ = addNamedAction(programMenu_, "WriteChn");
+    programMenu_->addSeparator();
+    writeAction_ = addNamedAction(programMenu_, "StartWrite");
+    connect(readAction_, &QAction::triggered, this, &MainWindow::startRead);
+    connect(writeAction_, &QAction::triggered, this, &MainWindow::startWrite);
+    // The engineering windows hang here; they are not part of this program yet.
+    programMenu_->addSeparator();
+    engineeringAction_ = addNamedAction(programMenu_, "gcms");
+    programMenu_->addSeparator();
+    audioTestAction_ = addNamedAction(programMenu_, "ypcs");
+    programMenu_->addSeparator();
+    testModeAction_ = addNamedAction(programMenu_, "csms");
+    for (const auto& [name, caption] : {std::pair{"RFReg_Test", l10n::fixed::kRegisterTestItem},
+                                        {"yjx", l10n::fixed::kHardwareItem},
+                                        {"mp3", l10n::fixed::kMp3Item},
+                                        {"crs", l10n::fixed::kCrystalItem}}) {
+        programMenu_->addSeparator();
+        QAction* item = addNamedAction(programMenu_, name);
+        item->setText(fixedText(caption));
+        item->setEnabled(false);
+    }
+    programMenu_->addSeparator();
+    identityAction_ = addNamedAction(programMenu_, "xid");
+    programMenu_->addSeparator();
+    QAction* bootLoader = addNamedAction(programMenu_, "prg");
+    bootLoader->setText(fixedText(l10n::fixed::kBootLoaderItem));
+    connect(bootLoader, &QAction::triggered, this, &MainWindow::openBootLoader);
+    for (QAction* item : {engineeringAction_, audioTestAction_, testModeAction_, identityAction_}) {
+        item->setEnabled(false);
+    }
+
+    languageMenu_ = menuBar()->addMenu(QString());
+    languageMenu_->setObjectName(QStringLiteral("lang"));
+    auto* languages = new QActionGroup(this);
+    chineseAction_ = addNamedAction(languageMenu_, "chn");
+    chineseAction_->setText(fixedText(l10n::fixed::kChineseItem));
+    englishAction_ = addNamedAction(languageMenu_, "eng");
+    englishAction_->setText(fixedText(l10n::fixed::kEnglishItem));
+    for (QAction* item : {chineseAction_, englishAction_}) {
+        item->setCheckable(true);
+        languages->addAction(item);
+    }
+    (doc_.language == UiLanguage::English ? englishAction_ : chineseAction_)->setChecked(true);
+    connect(chineseAction_, &QAction::triggered, this,
+            [this] { switchLanguage(UiLanguage::Chinese); });
+    connect(englishAction_, &QAction::triggered, this,
+            [this] { switchLanguage(UiLanguage::English); });
+}
+
+QWidget* MainWindow::buildSettingsPanel() {
+    auto* panel = new QGroupBox(this);
+    panel->setObjectName(QStringLiteral("Frame2"));
+    auto* layout = new QGridLayout(panel);
+    int row = 0;
+    for (SettingKey key : kAllSettings) {
+        const int i = static_cast<int>(key);
+        auto* label = new QLabel(panel);
+        auto* box = new QComboBox(panel);
+        box->setObjectName(QString::fromLatin1(selectorOf(key).objectName));
+        box->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+        connect(box, &QComboBox::activated, this,
+                [this, key](int index) { settingChosen(key, index); });
+        label->setBuddy(box);
+        layout->addWidget(label, row, 0);
+        layout->addWidget(box, row, 1);
+        settingLabels_[i] = label;
+        settingBoxes_[i] = box;
+        ++row;
+    }
+    // The band only shows what config.ini chose.
+    settingBoxes_[static_cast<int>(SettingKey::freqband)]->setEnabled(false);
+
+    portList_ = new QComboBox(panel);
+    portList_->setObjectName(QStringLiteral("Combo18"));
+    connect(portList_, &QComboBox::activated, this, &MainWindow::portListChosen);
+    scanButton_ = new QPushButton(fixedText(l10n::fixed::kScanPortsButton), panel);
+    scanButton_->setObjectName(QStringLiteral("Command3"));
+    connect(scanButton_, &QPushButton::clicked, this, &MainWindow::scanPorts);
+    layout->addWidget(new QLabel(fixedText(l10n::fixed::kPortListLabel), panel), row, 0);
+    layout->addWidget(portList_, row, 1);
+    layout->addWidget(scanButton_, ++row, 1);
+    layout->setRowStretch(++row, 1);
+    return panel;
+}
+
+QWidget* MainWindow::buildEditPanel() {
+    auto* column = new QWidget(this);
+    auto* columnLayout = new QVBoxLayout(column);
+    columnLayout->setContentsMargins(0, 0, 0, 0);
+
+    editFrame_ = new QGroupBox(column);
+    editFrame_->setObjectName(QStringLiteral("Frame3"));
+    auto* layout = new QVBoxLayout(editFrame_);
+    channelCountLabel_ = new QLabel(editFrame_);
+    channelCountBox_ = new QComboBox(editFrame_);
+    channelCountBox_->setObjectName(QStringLiteral("Combo12"));
+    channelCountBox_->addItems(channelCountOptions());
+    connect(channelCountBox_, &QComboBox::textActivated, this, &MainWindow::channelCountChosen);
+    stepLabel_ = new QLabel(editFrame_);
+    stepBox_ = new QComboBox(editFrame_);
+    stepBox_->setObjectName(QStringLiteral("Combo13"));
+    stepBox_->addItems(frequencyStepOptions());
+    connect(stepBox_, &QComboBox::textActivated, this, &MainWindow::stepChosen);
+    rxButton_ = new QPushButton(editFrame_);
+    rxButton_->setObjectName(QStringLiteral("Command9"));
+    txButton_ = new QPushButton(editFrame_);
+    txButton_->setObjectName(QStringLiteral("Command10"));
+    // The step and the two buttons only display values.
+    for (QWidget* w : std::initializer_list<QWidget*>{stepBox_, rxButton_, txButton_}) {
+        w->setEnabled(false);
+    }
+    for (QWidget* w : std::initializer_list<QWidget*>{channelCountLabel_, channelCountBox_,
+                                                      stepLabel_, stepBox_, rxButton_, txButton_}) {
+        layout->addWidget(w);
+    }
+    columnLayout->addWidget(editFrame_);
+    columnLayout->addStretch(1);
+
+    const auto addButton = [&](const char* name, void (MainWindow::*handler)()) {
+        auto* button = new QPushButton(column);
+        button->setObjectName(QString::fromLatin1(name));
+        button->setMinimumHeight(32);
+        connect(button, &QPushButton::clicked, this, handler);
+        columnLayout->addWidget(button);
+        return button;
+    };
+    readButton_ = addButton("Command2", &MainWindow::startRead);
+    writeButton_ = addButton("Command1", &MainWindow::startWrite);
+    openButton_ = addButton("Command5", &MainWindow::openFile);
+    saveButton_ = addButton("Command6", &MainWindow::saveFile);
+    return column;
+}

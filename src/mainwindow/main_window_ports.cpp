@@ -1,0 +1,65 @@
+#include <QAction>
+#include <QComboBox>
+#include <QProgressBar>
+
+#include "l10n/window_texts.h"
+#include "mainwindow/main_window.h"
+#include "mainwindow/port_picker_dialog.h"
+#include "mainwindow/port_with_simulator.h"
+#include "mainwindow/progress_window.h"
+
+void MainWindow::refreshPortViews() {
+    for (int item = 1; item <= PortControl::kComxItem; ++item) {
+        portActions_[item]->setChecked(portControl_.checkedItem() == item);
+    }
+    const QSignalBlocker quiet(portList_);
+    portList_->clear();
+    const QStringList& items = portControl_.comboItems();
+    for (int i = 0; i < items.size(); ++i) {
+        const QString device = portControl_.deviceToolTip(i);
+        const bool simulator = device == PortWithSimulator::simulatorDevice();
+        portList_->addItem(simulator ? QString::fromUtf8(l10n::fixed::kSimulatorPortItem)
+                                     : items.at(i));
+        portList_->setItemData(i, device, Qt::ToolTipRole);
+    }
+    const bool shown = !portControl_.comboText().isEmpty();
+    portList_->setCurrentIndex(shown ? portControl_.comboIndex() : -1);
+    portList_->setToolTip(shown ? portControl_.deviceToolTip(portControl_.comboIndex())
+                                : QString());
+}
+
+void MainWindow::portMenuChosen(int number) {
+    portControl_.com_sel(number);
+    refreshPortViews();
+}
+
+void MainWindow::portListChosen(int index) {
+    portControl_.Combo18_Click(index);
+    refreshPortViews();
+}
+
+void MainWindow::scanPorts() {
+    portControl_.check_uart();
+    refreshPortViews();
+}
+
+void MainWindow::openPortPicker() {
+    // The menu's check mark follows the port, not the click that opened the dialog.
+    refreshPortViews();
+    if (!portPicker_) {
+        portPicker_ = new PortPickerDialog(this);
+        connect(portPicker_, &PortPickerDialog::chosen, this, [this](int number) {
+            portControl_.comxDialogConfirmed(number);
+            refreshPortViews();
+        });
+    }
+    portPicker_->preselect(portControl_.comxDialogOpened());
+    portPicker_->show();
+    portPicker_->raise();
+    portPicker_->activateWindow();
+}
+
+void MainWindow::statusTimerTick() {
+    portControl_.showPortState();
+    progress_->bar().setValue(0);
+}

@@ -1,0 +1,124 @@
+// Drives the desktop program through the states worth looking at and saves a PNG of each:
+// mainwindow_screenshots OUTDIR (run under an X server; scripts/screenshots.sh uses Xvfb).
+#include <QAction>
+#include <QApplication>
+#include <QComboBox>
+#include <QDir>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QScreen>
+#include <QTableView>
+#include <QTemporaryDir>
+#include <QTest>
+#include <cstdio>
+
+#include "mainwindow/channel_grid_model.h"
+#include "mainwindow/main_window.h"
+#include "mainwindow/port_with_simulator.h"
+#include "mainwindow/progress_window.h"
+#include "mainwindow/splash_screen.h"
+#include "platform/qt_serial_port.h"
+#include "platform/steady_clock.h"
+
+namespace {
+
+// Boxes would wait for a click nobody gives; the tour notes them instead.
+struct NotingPrompts : WindowPrompts {
+    void showStatus(const StatusText&) override {}
+    void showMessage(const MessageBox& box) override {
+        std::fprintf(stderr, "box: %s\n", qPrintable(box.text));
+    }
+    bool askYesNo(const Question&) override { return true; }
+    QString chooseOpenFile(const QString&) override { return {}; }
+    QString chooseSaveFile(const QString&) override { return {}; }
+};
+
+QString outDir;
+int failures = 0;
+
+void settle(int ms = 300) { QTest::qWait(ms); }
+
+// The screen around `area` (popups and the progress window are windows of their own).
+void save(const QString& name, const QRect& area) {
+    QScreen* screen = QGuiApplication::primaryScreen();
+    const QPixmap shot = screen->grabWindow(0, area.x(), area.y(), area.width(), area.height());
+    const QString path = QDir(outDir).filePath(name + QStringLiteral(".png"));
+    if (!shot.save(path)) {
+        std::fprintf(stderr, "cannot save %s\n", qPrintable(path));
+        ++failures;
+        return;
+    }
+    std::printf("%s\n", qPrintable(path));
+}
+
+void check(bool ok, const char* what) {
+    if (ok) return;
+    std::fprintf(stderr, "tour: %s did not happen\n", what);
+    ++failures;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    QApplication application(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("radioprog"));
+    if (argc < 2) {
+        std::fprintf(stderr, "usage: mainwindow_screenshots OUTDIR\n");
+        return 2;
+    }
+    outDir = QString::fromLocal8Bit(argv[1]);
+    QDir().mkpath(outDir);
+    QTemporaryDir configDir;
+
+    StartupConfig config;  // a first start: Chinese, 22 channels
+    MainWindowSetup setup;
+    setup.document = buildStartupCodeplug(config);
+    setup.configPath = configDir.filePath(QStringLiteral("config.ini"));
+    setup.catalogue = PortCatalogue({}, {{1, PortWithSimulator::simulatorDevice()}});
+    setup.portToSelect = 1;
+    SteadyClock clock;
+    PortWithSimulator port(std::make_unique<QtSerialPort>(), clock);
+    port.setSimulatorPacing(true);
+    NotingPrompts prompts;
+    MainWindow window(std::move(setup), port, clock, prompts);
+    window.move(0, 0);
+    window.showWithSplash();
+    check(QTest::qWaitForWindowExposed(&window), "main window shown");
+    settle();
+    QRect screenArea = QGuiApplication::primaryScreen()->geometry();
+    save(QStringLiteral("0-splash"), screenArea);
+    QTest::qWait(SplashScreen::kShownMs);
+    settle();
+    save(QStringLiteral("1-main-chinese"), window.frameGeometry());
+
+    auto* grid = window.findChild<QTableView*>(QStringLiteral("MSFlexGrid1"));
+    auto* progress = window.findChild<ProgressWindow*>(QStringLiteral("Form5"));
+    window.findChild<QPushButton*>(QStringLiteral("Command2"))->click();
+    check(QTest::qWaitFor([&] { return progress->isVisible() && progress->bar().value() >= 36; },
+                          10000),
+          "read under way");
+    save(QStringLiteral("2-progress"), screenArea);
+    check(QTest::qWaitFor([&] { return !window.sessionRunning(); }, 15000), "read finished");
+    settle(1200);  // Timer1 puts the port state back into the status bar
+    save(QStringLiteral("3-after-read-chinese"), window.frameGeometry());
+
+    window.findChild<QAction*>(QStringLiteral("eng"))->trigger();
+    settle();
+    save(QStringLiteral("4-main-english"), window.frameGeometry());
+
+    const QModelIndex code = grid->model()->index(2, ChannelGridModel::RxCode);
+    QTest::mouseClick(grid->viewport(), Qt::LeftButton, {}, grid->visualRect(code).center());
+    settle(500);
+    check(grid->findChild<QComboBox*>(QStringLiteral("Combo3")) != nullptr, "code picker open");
+    save(QStringLiteral("5-code-picker"), screenArea);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+    settle();
+
+    window.resize(1400, 950);
+    settle();
+    save(QStringLiteral("6-resized-large"), window.frameGeometry());
+    window.resize(900, 560);
+    settle();
+    save(QStringLiteral("7-resized-small"), window.frameGeometry());
+    return failures == 0 ? 0 : 1;
+}

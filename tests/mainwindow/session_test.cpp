@@ -1,0 +1,104 @@
+#include <QAction>
+#include <QLineEdit>
+#include <QProgressBar>
+#include <QPushButton>
+
+#include "link/memory_image.h"
+#include "mainwindow/progress_window.h"
+#include "sim/sim_radio.h"
+#include "window_fixture.h"
+
+namespace {
+
+using Col = ChannelGridModel::Column;
+
+// A plan the write checks accept: slot i on 440.025 + i × 0.025 MHz, transmit 5 kHz higher.
+Codeplug writablePlan() {
+    Codeplug doc = startupDocument();
+    for (int slot = 0; slot < kSlotCount; ++slot) {
+        doc.plan[slot].rxfreq = formatFrequencyValue(440.025 + slot * 0.025);
+        doc.plan[slot].txfreq = formatFrequencyValue(440.030 + slot * 0.025);
+    }
+    return doc;
+}
+
+bool buttonsEnabled(WindowFixture& f) {
+    return f.find<QPushButton>("Command1")->isEnabled() &&
+           f.find<QPushButton>("Command2")->isEnabled();
+}
+
+TEST(Sessions, AWriteSendsThePlanAndAReadFillsTheGrid) {
+    WindowFixture f(writablePlan());
+    QTest::mouseClick(f.find<QPushButton>("Command1"), Qt::LeftButton);
+    EXPECT_FALSE(buttonsEnabled(f));
+    EXPECT_TRUE(f.find<ProgressWindow>("Form5")->isVisible());
+    ASSERT_TRUE(f.waitFor([&] { return !f.window->sessionRunning(); }));
+    EXPECT_EQ(f.prompts.boxTexts(), QStringList{"Write OK"});
+    EXPECT_TRUE(f.radio().programmingEnded());
+    for (int slot = 0; slot < kSlotCount; ++slot) {
+        const QByteArray frame = std::get<QByteArray>(encode_channel(f.window->document(), slot));
+        EXPECT_EQ(f.radio().channelRecord(slot), frame.mid(4, frame.size() - 5)) << slot;
+    }
+
+    // Edit a row, then read it back from the radio.
+    f.click(6, Col::Bandwidth);
+    f.grid()->setCurrentIndex(f.cell(6, Col::TxFrequency));
+    QTest::keyClick(f.grid(), '4');
+    QTest::keyClicks(f.grid()->findChild<QLineEdit*>(), QStringLiteral("50.00000"));
+    QTest::keyClick(f.grid()->findChild<QLineEdit*>(), Qt::Key_Return);
+    EXPECT_EQ(f.text(6, Col::TxFrequency), "450.00000");
+
+    f.prompts.boxes.clear();
+    f.find<QAction>("WriteChn")->trigger();
+    ASSERT_TRUE(f.waitFor([&] { return !f.window->sessionRunning(); }));
+    EXPECT_EQ(f.prompts.boxTexts(), QStringList{"Read OK"});
+    EXPECT_EQ(f.text(6, Col::TxFrequency), "440.18000");
+    EXPECT_EQ(f.text(6, Col::Bandwidth), "narrow");
+    EXPECT_TRUE(buttonsEnabled(f));
+    EXPECT_FALSE(f.find<ProgressWindow>("Form5")->isVisible());
+    EXPECT_TRUE(f.prompts.statuses.contains("Read OK"));
+}
+
+TEST(Sessions, ClosingTheProgressWindowCancelsARead) {
+    WindowFixture f;
+    f.port.setSimulatorPacing(true);
+    QTest::mouseClick(f.find<QPushButton>("Command2"), Qt::LeftButton);
+    auto* progress = f.find<ProgressWindow>("Form5");
+    ASSERT_TRUE(f.waitFor([&] { return progress->bar().value() >= 9; }));
+    progress->close();
+    EXPECT_FALSE(f.window->sessionRunning());
+    EXPECT_EQ(f.prompts.boxTexts(), QStringList{"Read Error"});
+    EXPECT_TRUE(buttonsEnabled(f));
+    EXPECT_FALSE(progress->isVisible());
+    EXPECT_TRUE(f.port.isOpen());
+
+    // Nothing half-sent is left behind: the next read runs to its end.
+    f.port.setSimulatorPacing(false);
+    f.prompts.boxes.clear();
+    QTest::mouseClick(f.find<QPushButton>("Command2"), Qt::LeftButton);
+    ASSERT_TRUE(f.waitFor([&] { return !f.window->sessionRunning(); }));
+    EXPECT_EQ(f.prompts.boxTexts(), QStringList{"Read OK"});
+}
+
+TEST(Sessions, YesToTheExitQuestionDuringAReadCancelsItAndClosesThePort) {
+    WindowFixture f;
+    f.port.setSimulatorPacing(true);
+    QTest::mouseClick(f.find<QPushButton>("Command2"), Qt::LeftButton);
+    ASSERT_TRUE(f.waitFor([&] { return f.find<ProgressWindow>("Form5")->bar().value() >= 3; }));
+    f.prompts.answer = true;
+    EXPECT_TRUE(f.window->close());
+    EXPECT_FALSE(f.window->sessionRunning());
+    EXPECT_FALSE(f.port.isOpen());
+}
+
+TEST(Sessions, AReadWithThePortClosedOnlySaysSo) {
+    WindowFixture f;
+    f.find<QAction>("com3")->trigger();  // no such port: closed
+    f.prompts.boxes.clear();
+    QTest::mouseClick(f.find<QPushButton>("Command2"), Qt::LeftButton);
+    EXPECT_EQ(f.prompts.boxTexts(), QStringList{"Please check COM Port"});
+    EXPECT_TRUE(buttonsEnabled(f));
+    EXPECT_FALSE(f.window->sessionRunning());
+}
+
+}  // namespace
