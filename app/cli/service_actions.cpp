@@ -120,6 +120,16 @@ int calibration(ServiceConsole& console, const ServiceRequest& request,
         if (outcome == ServiceOutcome::Succeeded) printLines(panel.version);
         return exitStatus(outcome);
     }
+    if (request.action == "write") {
+        // A value that does not fit is refused before the radio is even read.
+        CalibrationValues given;
+        QString name;
+        applyCalibrationValues(values, &given, &name);
+        if (!calibrationWriteRequest(given, 0, 0, console.language()).ok()) {
+            panel.values = given;
+            return exitStatus(console.run(panel, [&] { return panel.write(); }));
+        }
+    }
     // A write changes the values named and sends the others as the radio holds them.
     ServiceOutcome outcome = console.run(panel, [&] { return panel.read(); });
     if (outcome != ServiceOutcome::Succeeded) return exitStatus(outcome);
@@ -139,6 +149,16 @@ int band(ServiceConsole& console, const ServiceRequest& request,
         return exitStatus(console.run(panel, [&] { return panel.restoreDefaults(); }));
     }
     const bool fromFile = source && source->isFile;
+    if (source && !fromFile) {
+        // A cell that does not fit is refused before the radio is even read.
+        QString name;
+        applyBandValues(source->values, &panel.table, &name);
+        for (int segment = 0; segment < 4; ++segment) {
+            if (!bandSegmentData(panel.table, segment, console.language()).ok())
+                return exitStatus(console.run(panel, [&] { return panel.write(); }));
+        }
+        panel.table = {};
+    }
     if (!fromFile) {
         // Like the window, which shows what was read before it is changed and written.
         const ServiceOutcome outcome = console.run(panel, [&] { return panel.read(); });

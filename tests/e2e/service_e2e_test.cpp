@@ -126,6 +126,10 @@ TEST_F(ServiceEndToEnd, AValueThatDoesNotFitIsRefusedBeforeAnythingIsSent) {
     EXPECT_TRUE(
         refused.err.contains("crystal correction: \"200\" is not a number from -127 to 127"))
         << refused.err.toStdString();
+    const CliRun voltage = service({"band", "write", "tx1=1.7", "rx20=3.4"});
+    EXPECT_EQ(voltage.exitCode, 1);
+    EXPECT_TRUE(voltage.err.contains("RX voltage of row 20: \"3.4\" is not a number from 0 to 3.3"))
+        << voltage.err.toStdString();
     const CliRun unknown = service({"band", "write", "tx21=1"});
     EXPECT_EQ(unknown.exitCode, 2);
     EXPECT_TRUE(unknown.err.contains("unknown name: tx21")) << unknown.err.toStdString();
