@@ -38,3 +38,4 @@ void addPortsCommand(CLI::App& app, const GlobalOptions& global, CommandRunner& 
 void addReadCommand(CLI::App& app, const GlobalOptions& global, CommandRunner& run);
 void addWriteCommand(CLI::App& app, const GlobalOptions& global, CommandRunner& run);
 void addFirmwareCommand(CLI::App& app, const GlobalOptions& global, CommandRunner& run);
+void addServiceCommand(CLI::App& app, const GlobalOptions& global, CommandRunner& run);

@@ -58,6 +58,7 @@ int main(int argc, char** argv) {
     addReadCommand(app, global, run);
     addWriteCommand(app, global, run);
     addFirmwareCommand(app, global, run);
+    addServiceCommand(app, global, run);
 
     try {
         app.parse(argc, argv);

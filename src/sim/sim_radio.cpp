@@ -152,6 +152,7 @@ void SimRadio::handleRequest(quint8 command, const QByteArray& payload) {
             programmingEnded_ = true;
             break;
         default:
+            answerService(command, payload);
             break;
     }
 }
@@ -177,8 +178,29 @@ void SimRadio::reply(quint8 command, const QByteArray& payload, int extraDelayMs
         bytes.prepend(kGarbage);
         faults += QStringLiteral(" garbage");
     }
+    queue(bytes, faults.trimmed(), extraDelayMs);
+}
+
+void SimRadio::answerService(quint8 command, const QByteArray& payload) {
+    const std::optional<SimService::Answer> answer = service_.answer(command, payload);
+    if (!answer) return;
+    switch (answer->kind) {
+        case SimService::Answer::Record:
+            reply(kRecordReply, answer->bytes);
+            return;
+        case SimService::Answer::Acknowledge:
+            reply(kAcknowledge, {});
+            return;
+        case SimService::Answer::Text:
+            // Text lines are not frames: of the reply faults only the silence applies.
+            queue(answer->bytes, {});
+            return;
+    }
+}
+
+void SimRadio::queue(const QByteArray& bytes, const QString& note, int extraDelayMs) {
     const int delayMs = latencyMs_ + extraDelayMs;
-    pending_.push_back({clock_.nowMs() + delayMs, bytes, faults.trimmed()});
+    pending_.push_back({clock_.nowMs() + delayMs, bytes, note});
     if (!replyTimer_->isActive()) replyTimer_->start(delayMs);
 }
 

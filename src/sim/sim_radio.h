@@ -10,6 +10,7 @@
 #include "platform/clock.h"
 #include "sim/sim_bootloader.h"
 #include "sim/sim_faults.h"
+#include "sim/sim_service.h"
 
 // The radio side of the programming protocol: it keeps a settings record and 25 channel
 // records in its memory and answers the programming requests after a reply latency.
@@ -17,6 +18,8 @@
 //   "X" -> takes the settings record,  "W" block i -> takes channel record i (11 or 13 bytes),
 //   both acknowledged with an empty frame; "E" ends programming and gets no reply.
 // Replies carrying records use the command byte 'D' (0x44), acknowledgements 'A' (0x41).
+// The engineering panels' requests go to its service side (SimService), which answers with a
+// record, an acknowledgement or a line of text.
 // Anything else (unknown commands, bad checksums, malformed records) goes unanswered.
 class SimRadio {
 public:
@@ -54,6 +57,7 @@ public:
     }
 
     SimBootloader& bootloader() { return bootloader_; }
+    SimService& service() { return service_; }
 
     int requestCount() const { return requestCount_; }
     bool programmingEnded() const { return programmingEnded_; }
@@ -63,6 +67,8 @@ private:
     void feed(quint8 byte);
     void handleRequest(quint8 command, const QByteArray& payload);
     void reply(quint8 command, const QByteArray& payload, int extraDelayMs = 0);
+    void answerService(quint8 command, const QByteArray& payload);
+    void queue(const QByteArray& bytes, const QString& note, int extraDelayMs = 0);
     void sendDue();
     void sendNoise();
     void note(TraceKind kind, const QByteArray& bytes, const QString& text = {});
@@ -77,6 +83,7 @@ private:
     SimBootloader bootloader_;
     QByteArray settings_;
     std::array<QByteArray, kChannelCount> channels_;
+    SimService service_;
 
     // The request under way.
     QByteArray request_;

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QtGlobal>
+
+// The service commands the engineering panels send on the programming link, and the layout
+// of what they carry. The program and the simulated radio both speak them from here.
+namespace service {
+
+constexpr quint8 kCalibrationRead = 0x54;   // "T"
+constexpr quint8 kCalibrationWrite = 0x59;  // "Y"
+constexpr quint8 kEepromRowWrite = 0x5F;    // "_"  "Save To EEP", one row
+constexpr quint8 kEepromRowRead = 0x60;     // "`"  "Read EEP", one row
+constexpr quint8 kEepromClear = 0x61;       // "a"
+constexpr quint8 kRficRead = 0x62;          // "b"  one RF register
+constexpr quint8 kRficWrite = 0x63;         // "c"  one RF register
+constexpr quint8 kBandRead = 0x67;          // "g"  one segment
+constexpr quint8 kVersionRead = 0x68;       // "h"  answered with text lines
+constexpr quint8 kBandWrite = 0x69;         // "i"  with a 22-byte payload: one segment
+constexpr quint8 kBandDefaults = 0x6A;      // "j"  with a 3-byte payload
+constexpr quint8 kCrystalRead = 0x6D;       // "m"
+constexpr quint8 kCrystalWrite = 0x6E;      // "n"
+
+// pack_pc_cmd's fifth byte, and the one the calibration read asks with.
+constexpr quint8 kPlainRequestTag = 0x05;
+constexpr quint8 kCalibrationTag = 0x07;
+
+// Replies.
+constexpr int kRegisterReplySize = 3;  // address, value high, value low
+constexpr int kCalibrationRecordSize = 8;
+constexpr int kBandSegmentSize = 20;
+constexpr int kBandSegments = 4;
+constexpr int kBandPointsRead = 15;  // a read uses the first 15 bytes of a segment
+constexpr int kCrystalReplySize = 5;
+constexpr int kCrystalReplyByte = 4;
+
+// The calibration record's bytes.
+constexpr int kCalPowerHigh = 0, kCalPowerLow = 1, kCalRssiNarrow = 2, kCalRssiWide = 3;
+constexpr int kCalFixed4 = 4, kCalFixed5 = 5, kCalNoiseNarrow = 6, kCalNoiseWide = 7;
+constexpr quint8 kCalFixed4Value = 128, kCalFixed5Value = 0;
+
+}  // namespace service
