@@ -1,9 +1,6 @@
 #include <unistd.h>
 
-#include <QCoreApplication>
-#include <csignal>
 #include <cstdio>
-#include <cstring>
 
 #include "bootloader/boot_frames.h"
 #include "bootloader/boot_session.h"
@@ -11,7 +8,7 @@
 #include "cli/console_session_view.h"
 #include "cli/file_arguments.h"
 #include "cli/radio_command.h"
-#include "common/signal_notifier.h"
+#include "cli/session_runner.h"
 #include "persistence/file_access.h"
 
 namespace {
@@ -102,18 +99,7 @@ int runFirmware(const GlobalOptions& global, const FirmwareOptions& options) {
         progress.setProgressGoal(total);
         progress.setProgress(done);
     });
-    QObject::connect(
-        &session, &BootSession::finished, QCoreApplication::instance(),
-        [] { QCoreApplication::exit(0); }, Qt::QueuedConnection);
-    {
-        SignalNotifier stop({SIGINT, SIGTERM, SIGHUP});
-        QObject::connect(&stop, &SignalNotifier::raised, &session, [&session](int signalNumber) {
-            if (!session.isRunning()) return;
-            std::fprintf(stderr, "\nradioprog-cli: stopped by %s\n", ::strsignal(signalNumber));
-            session.cancel();
-        });
-        if (session.start(job)) QCoreApplication::exec();
-    }
+    runUntilFinished(session, &BootSession::finished, [&] { return session.start(job); });
     countdown.done();
     progress.hideProgress();
     if (session.outcome() != BootSession::Outcome::Succeeded) return kExitFailed;

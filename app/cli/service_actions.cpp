@@ -252,6 +252,7 @@ int runServiceAction(const GlobalOptions& global, const ServiceRequest& request)
     }
 
     ServiceConsole console(global, *port, language);
+    if (!console.traceTo(request.trace)) return kExitBadInput;
     if (request.panel == "registers") return registers(console, request, grid);
     if (request.panel == "calibration") {
         return calibration(console, request, source ? source->values : std::vector<Assignment>{});

@@ -9,6 +9,7 @@
 // One `service PANEL ACTION` as the command line gives it.
 struct ServiceRequest {
     std::string port;
+    std::string trace;   // --trace FILE: the serial traffic
     std::string panel;   // registers, calibration, band, crystal
     std::string action;  // e.g. read-eeprom
     std::vector<std::string> arguments;

@@ -1,6 +1,7 @@
 #include <memory>
 
 #include "cli/commands.h"
+#include "cli/radio_command.h"
 #include "cli/service_actions.h"
 
 namespace {
@@ -77,6 +78,7 @@ void addServiceCommand(CLI::App& app, const GlobalOptions& global, CommandRunner
         "service", "the factory service panels: RF registers, calibration, band table, crystal");
     auto request = std::make_shared<ServiceRequest>();
     service->add_option("--port", request->port, "COMn, a device path, or sim")->required();
+    addTraceOption(service, request->trace);
     service->require_subcommand(1);
     service->footer(kNames);
     for (const PanelSpec& panelSpec : panels()) {

@@ -5,10 +5,7 @@
 #include <memory>
 
 #include "cli/commands.h"
-#include "link/link_transport.h"
-#include "link/port_control.h"
-#include "platform/steady_clock.h"
-#include "platform/stream_prompts.h"
+#include "cli/radio_command.h"
 #include "service/service_channel.h"
 #include "service/service_panel.h"
 
@@ -19,6 +16,8 @@
 class ServiceConsole {
 public:
     ServiceConsole(const GlobalOptions& global, const PortArgument& port, UiLanguage language);
+    // The serial traffic into `path` (nothing for an empty path); false after saying why.
+    bool traceTo(const std::string& path) { return line_.traceTo(path); }
     ~ServiceConsole();
 
     ServiceChannel& channel() { return channel_; }
@@ -29,11 +28,7 @@ public:
 
 private:
     UiLanguage language_;
-    SteadyClock clock_;
-    StreamPrompts prompts_{stderr};
-    std::unique_ptr<SerialPort> port_;
-    std::unique_ptr<PortControl> control_;
-    std::unique_ptr<LinkTransport> transport_;
+    RadioLine line_;
     ServiceChannel channel_;
     bool sent_ = false;
 };
