@@ -31,9 +31,10 @@ declare -A seeds=(
     [config_reader]="$persistence/fuzz_regressions fuzz/seeds/config"
     [frame_parser]="$link/fuzz_regressions"
     [reply_decoder]="$link/fuzz_regressions"
+    [boot_replies]="tests/bootloader/fuzz_regressions"
 )
 ((${#targets[@]})) || targets=(codeplug_reader legacy_layouts config_reader round_trip frame_parser
-                                reply_decoder)
+                                reply_decoder boot_replies)
 
 scripts/deps.sh clang libclang-rt-14-dev
 build=build-fuzz

@@ -240,3 +240,19 @@ TEST_F(BootSessionTest, AClosedPortIsOneLineAndNothingElse) {
 }
 
 }  // namespace
+
+#include "boot_properties.h"
+#include "regression_inputs.h"
+
+namespace {
+
+TEST(BootFuzzRegressions, EveryInputKeepsTheReadPromises) {
+    const auto inputs = regressionInputs(QStringLiteral(BOOT_FUZZ_REGRESSIONS_DIR));
+    ASSERT_FALSE(inputs.isEmpty());
+    for (auto it = inputs.cbegin(); it != inputs.cend(); ++it) {
+        const char* broken = boot_properties::checkBootRead(it.value());
+        EXPECT_EQ(broken, nullptr) << it.key().toStdString() << ": " << broken;
+    }
+}
+
+}  // namespace
