@@ -40,6 +40,9 @@ QString channelValueText(const Error& error, UiLanguage language) {
     if (error.field.endsWith(QLatin1String("cdc"))) {
         return channel + programText(ProgramText::ChannelCustomDcsError, language);
     }
+    if (error.field.endsWith(QLatin1String("ctc"))) {
+        return channel + programText(ProgramText::ChannelCodeNotInList, language).arg(error.detail);
+    }
     return channel + message(MessageId::MsgChannelFreqError, language);
 }
 

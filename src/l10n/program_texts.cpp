@@ -26,9 +26,11 @@ const TextPair kProgramTexts[] = {
     {"信道自定义数字码输入错误，请重新输入", "Channel Custom DCS Input error，Please edit again"},
     {"当前用户没有使用该串口的权限：请执行 sudo usermod -aG dialout $USER，然后重新登录",
      "This user may not open the port: run sudo usermod -aG dialout $USER, then log in again"},
+    {"信道的亚音 %1 不在当前模式的亚音列表中，请重新输入",
+     "Channel code %1 is not in this mode's code list，Please edit again"},
 };
 
-static_assert(std::size(kProgramTexts) == static_cast<int>(ProgramText::PortPermissionHint) + 1);
+static_assert(std::size(kProgramTexts) == static_cast<int>(ProgramText::ChannelCodeNotInList) + 1);
 
 }  // namespace
 

@@ -22,7 +22,8 @@ enum class ProgramText {
     ConfigUnreadable,        // config.ini exists but cannot be read; %1 says which and why
     ChannelCustomToneError,  // after the channel prefix and number, as the message table's
     ChannelCustomDcsError,
-    PortPermissionHint,  // the port exists but this user may not open it
+    PortPermissionHint,    // the port exists but this user may not open it
+    ChannelCodeNotInList,  // after the channel prefix and number; %1 the code
 };
 
 QString programText(ProgramText id, UiLanguage language);

@@ -147,6 +147,10 @@ Result<QByteArray> encode_channel(const Codeplug& doc, int slot) {
     };
     if (!rxSteps) return doesNotFit("rxfreq", ch.rxfreq);
     if (!txSteps) return doesNotFit("txfreq", ch.txfreq);
+    // A code the active list lacks (an inverted code in normal mode) has no byte: sending the
+    // list's size, as the radio's tool did, would give the radio some other code.
+    if (!doc.codeTable.contains(ch.rxctc)) return doesNotFit("rxctc", ch.rxctc);
+    if (!doc.codeTable.contains(ch.txctc)) return doesNotFit("txctc", ch.txctc);
 
     const CodeByte rxCode = codeByteOf(doc.codeTable, ch.rxctc);
     const CodeByte txCode = codeByteOf(doc.codeTable, ch.txctc);

@@ -107,6 +107,8 @@ TEST_F(WriteSessionTest, EachFrequencyCheckRefusesTheWriteBeforeAnythingIsSent) 
          "Num4Channl Frequency Input error，Please edit again"},
         {"custom tone that does not fit its bytes", 5, &ChannelRecord::rxctcfreq, "7000",
          "Num6Channel Custom Tone Input error，Please edit again"},
+        {"an inverted code in normal mode", 9, &ChannelRecord::txctc, "I023",
+         "Num10Channel code I023 is not in this mode's code list，Please edit again"},
     };
     for (const auto& c : cases) {
         SessionFixture world;
