@@ -17,6 +17,7 @@
 #include "l10n/window_texts.h"
 #include "mainwindow/channel_grid_model.h"
 #include "mainwindow/channel_grid_view.h"
+#include "mainwindow/document_history.h"
 #include "mainwindow/progress_window.h"
 #include "mainwindow/splash_screen.h"
 
@@ -49,10 +50,21 @@ MainWindow::MainWindow(MainWindowSetup setup, SerialPort& port, Clock& clock,
       portControl_(port, std::move(setup.catalogue), statusRelay_, doc_.language),
       transport_(port, clock) {
     setObjectName(QStringLiteral("Form1"));
-    gridModel_ = new ChannelGridModel(doc_, this);
+    history_ = new DocumentHistory(doc_, [this] { refreshDocumentViews(); }, this);
+    gridModel_ = new ChannelGridModel(doc_, *history_, this);
     gridModel_->setNoticeHandler([this](const Notices& notices) { showNotices(notices); });
 
     buildMenus();
+    // Undo and redo are keys only: the menu bar keeps the items the program always had.
+    undoAction_ = new QAction(this);
+    undoAction_->setObjectName(QStringLiteral("undo"));
+    undoAction_->setShortcut(QKeySequence::Undo);
+    redoAction_ = new QAction(this);
+    redoAction_->setObjectName(QStringLiteral("redo"));
+    redoAction_->setShortcut(QKeySequence::Redo);
+    addActions({undoAction_, redoAction_});
+    connect(undoAction_, &QAction::triggered, this, [this] { stepHistory(true); });
+    connect(redoAction_, &QAction::triggered, this, [this] { stepHistory(false); });
     auto* central = new QWidget(this);
     auto* layout = new QHBoxLayout(central);
     layout->addWidget(buildSettingsPanel());

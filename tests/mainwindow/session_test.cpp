@@ -102,3 +102,35 @@ TEST(Sessions, AReadWithThePortClosedOnlySaysSo) {
 }
 
 }  // namespace
+
+namespace {
+
+TEST(History, UndoAndRedoCoverEditsAndAWholeReadInAnyLanguage) {
+    WindowFixture f(startupDocument(UiLanguage::Chinese));
+    QAction* undo = f.find<QAction>("undo");
+    QAction* redo = f.find<QAction>("redo");
+    f.click(1, Col::Bandwidth);
+    f.choose("Combo12", 4);  // five channels
+    EXPECT_EQ(f.text(1, Col::Bandwidth), QStringLiteral("宽带"));
+
+    f.find<QAction>("eng")->trigger();  // a language switch is no step of its own
+    undo->trigger();
+    EXPECT_EQ(f.window->document().chtot, "22");
+    undo->trigger();
+    EXPECT_EQ(f.text(1, Col::Bandwidth), "narrow");
+    redo->trigger();
+    EXPECT_EQ(f.text(1, Col::Bandwidth), "wide");
+
+    QTest::mouseClick(f.find<QPushButton>("Command2"), Qt::LeftButton);
+    EXPECT_FALSE(undo->isEnabled());
+    ASSERT_TRUE(f.waitFor([&] { return !f.window->sessionRunning(); }));
+    const QString readRx = f.text(0, Col::RxFrequency);
+    EXPECT_NE(readRx, "000.00000");
+    undo->trigger();
+    EXPECT_EQ(f.text(0, Col::RxFrequency), "000.00000");
+    EXPECT_EQ(f.text(1, Col::Bandwidth), "wide");
+    redo->trigger();
+    EXPECT_EQ(f.text(0, Col::RxFrequency), readRx);
+}
+
+}  // namespace
