@@ -182,6 +182,7 @@ void MainWindow::buildMenus() {
     setupMenu_->setObjectName(QStringLiteral("chuankoushezhi"));
     portMenu_ = setupMenu_->addMenu(QString());
     portMenu_->setObjectName(QStringLiteral("com"));
+    portMenu_->setToolTipsVisible(true);  // each port's device
     for (int number = 1; number <= PortControl::kScannedPorts; ++number) {
         QAction* item =
             portMenu_->addAction(fixedText(l10n::fixed::kComItemPrefix) + QString::number(number));

@@ -11,6 +11,9 @@
 void MainWindow::refreshPortViews() {
     for (int item = 1; item <= PortControl::kComxItem; ++item) {
         portActions_[item]->setChecked(portControl_.checkedItem() == item);
+        if (item < PortControl::kComxItem) {
+            portActions_[item]->setToolTip(portControl_.catalogue().deviceFor(item));
+        }
     }
     const QSignalBlocker quiet(portList_);
     portList_->clear();
