@@ -91,6 +91,20 @@ TEST(Sessions, YesToTheExitQuestionDuringAReadCancelsItAndClosesThePort) {
     EXPECT_FALSE(f.port.isOpen());
 }
 
+TEST(Sessions, ASilentRadioEndsTheReadWithTheLinkMessage) {
+    WindowFixture f;
+    SimFaults faults;
+    faults.silentAlways = true;
+    f.radio().setFaults(faults);
+    QTest::mouseClick(f.find<QPushButton>("Command2"), Qt::LeftButton);
+    ASSERT_TRUE(f.waitFor([&] { return !f.window->sessionRunning(); }));
+    ASSERT_FALSE(f.prompts.boxes.empty());
+    EXPECT_EQ(f.prompts.boxes.front().text, "Transmission Error，Check Radio");
+    EXPECT_TRUE(buttonsEnabled(f));
+    EXPECT_FALSE(f.find<ProgressWindow>("Form5")->isVisible());
+    EXPECT_EQ(f.text(0, Col::RxFrequency), "000.00000");
+}
+
 TEST(Sessions, AReadWithThePortClosedOnlySaysSo) {
     WindowFixture f;
     f.find<QAction>("com3")->trigger();  // no such port: closed
