@@ -44,6 +44,7 @@ void MainWindow::portListChosen(int index) {
 void MainWindow::scanPorts() {
     portControl_.check_uart();
     refreshPortViews();
+    statusTimer_.start();  // the scan leaves the port closed; the status bar says so shortly
 }
 
 void MainWindow::openPortPicker() {

@@ -1,9 +1,11 @@
 #include <QAction>
 #include <QCloseEvent>
+#include <QComboBox>
+#include <QLabel>
+#include <QMenu>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QStatusBar>
-#include <QLabel>
 
 #include "link/read_session.h"
 #include "link/write_session.h"
@@ -33,6 +35,10 @@ void MainWindow::WidgetSessionView::setSessionButtonsEnabled(bool enabled) {
     }
     window_.readAction_->setEnabled(enabled);
     window_.writeAction_->setEnabled(enabled);
+    // The port stays as it is while a session uses it.
+    window_.portList_->setEnabled(enabled);
+    window_.scanButton_->setEnabled(enabled);
+    window_.portMenu_->setEnabled(enabled);
     // A step back while a read fills the grid would be overwritten at once.
     window_.undoAction_->setEnabled(enabled);
     window_.redoAction_->setEnabled(enabled);

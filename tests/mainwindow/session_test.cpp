@@ -65,12 +65,15 @@ TEST(Sessions, ClosingTheProgressWindowCancelsARead) {
     QTest::mouseClick(f.find<QPushButton>("Command2"), Qt::LeftButton);
     auto* progress = f.find<ProgressWindow>("Form5");
     ASSERT_TRUE(f.waitFor([&] { return progress->bar().value() >= 9; }));
+    EXPECT_FALSE(f.find<QComboBox>("Combo18")->isEnabled());  // the port stays while in use
+    EXPECT_FALSE(f.find<QPushButton>("Command3")->isEnabled());
     progress->close();
     EXPECT_FALSE(f.window->sessionRunning());
     EXPECT_EQ(f.prompts.boxTexts(), QStringList{"Read Error"});
     EXPECT_TRUE(buttonsEnabled(f));
     EXPECT_FALSE(progress->isVisible());
     EXPECT_TRUE(f.port.isOpen());
+    EXPECT_TRUE(f.find<QComboBox>("Combo18")->isEnabled());
 
     // Nothing half-sent is left behind: the next read runs to its end.
     f.port.setSimulatorPacing(false);
