@@ -4,6 +4,7 @@
 #include <QColor>
 
 #include "l10n/texts.h"
+#include "mainwindow/document_history.h"
 
 namespace {
 
@@ -11,8 +12,8 @@ constexpr int kFirstHeaderCaption = 40;  // "信道" … "发射功率", in colu
 
 }  // namespace
 
-ChannelGridModel::ChannelGridModel(Codeplug& doc, QObject* parent)
-    : QAbstractTableModel(parent), doc_(doc) {}
+ChannelGridModel::ChannelGridModel(Codeplug& doc, DocumentHistory& history, QObject* parent)
+    : QAbstractTableModel(parent), doc_(doc), history_(history) {}
 
 int ChannelGridModel::rowCount(const QModelIndex& parent) const {
     return parent.isValid() ? 0 : kSlotCount;
@@ -91,9 +92,11 @@ bool ChannelGridModel::setData(const QModelIndex& index, const QVariant& value, 
     if (role != Qt::EditRole || !(flags(index) & Qt::ItemIsEditable)) return false;
     if (!isFrequency(index.column())) return false;
     const QString text = value.toString();
-    const Notices notices = index.column() == RxFrequency
-                                ? enterRxFrequency(doc_, index.row(), text)
-                                : enterTxFrequency(doc_, index.row(), text);
+    Notices notices;
+    history_.record([&] {
+        notices = index.column() == RxFrequency ? enterRxFrequency(doc_, index.row(), text)
+                                                : enterTxFrequency(doc_, index.row(), text);
+    });
     // The receive cell may have changed the transmit cell too.
     Q_EMIT dataChanged(this->index(index.row(), RxFrequency), this->index(index.row(), Power));
     if (!notices.empty() && noticeHandler_) noticeHandler_(notices);
@@ -105,17 +108,22 @@ void ChannelGridModel::cellClicked(const QModelIndex& index) {
     const int slot = index.row();
     switch (index.column()) {
         case Bandwidth:
-            toggleBandwidth(doc_, slot);
+            history_.record([&] { toggleBandwidth(doc_, slot); });
             Q_EMIT dataChanged(index, index);
             return;
         case Power:
-            togglePower(doc_, slot);
+            history_.record([&] { togglePower(doc_, slot); });
             Q_EMIT dataChanged(index, index);
             return;
         case RxFrequency:
-        case TxFrequency:
-            if (frequencyCellClicked(doc_, slot, directionOf(index.column()))) refresh();
+        case TxFrequency: {
+            bool reformatted = false;
+            history_.record([&] {
+                reformatted = frequencyCellClicked(doc_, slot, directionOf(index.column()));
+            });
+            if (reformatted) refresh();
             return;
+        }
         default:
             return;
     }
@@ -123,7 +131,10 @@ void ChannelGridModel::cellClicked(const QModelIndex& index) {
 
 bool ChannelGridModel::codePicked(const QModelIndex& index, int position) {
     if (!isCode(index.column()) || !(flags(index) & Qt::ItemIsEditable)) return false;
-    const bool customTone = pickCode(doc_, index.row(), directionOf(index.column()), position);
+    bool customTone = false;
+    history_.record([&] {
+        customTone = pickCode(doc_, index.row(), directionOf(index.column()), position);
+    });
     refresh();
     return customTone;
 }

@@ -7,6 +7,8 @@
 #include "model/editing.h"
 #include "model/notice.h"
 
+class DocumentHistory;
+
 // The channel grid as a view of the document: one row per slot, the channel number and the
 // six cells of a ChannelRecord. Edits go through the document's operations; the model only
 // shows the outcome and hands their notices on.
@@ -18,7 +20,7 @@ public:
     static constexpr int kColumnCount = 7;
     static constexpr int kFrequencyMaxLength = 9;
 
-    ChannelGridModel(Codeplug& doc, QObject* parent = nullptr);
+    ChannelGridModel(Codeplug& doc, DocumentHistory& history, QObject* parent = nullptr);
 
     // Where notices of an edit go (warning boxes), in order.
     void setNoticeHandler(std::function<void(const Notices&)> handler) {
@@ -55,5 +57,6 @@ private:
     QString cellText(int slot, int column) const;
 
     Codeplug& doc_;
+    DocumentHistory& history_;
     std::function<void(const Notices&)> noticeHandler_;
 };

@@ -6,11 +6,12 @@
 #include <QPushButton>
 
 #include "l10n/window_texts.h"
+#include "mainwindow/document_history.h"
 #include "mainwindow/window_prompts.h"
 
-CustomToneDialog::CustomToneDialog(Codeplug& doc, int slot, CodeDirection direction,
-                                   WindowPrompts& prompts, QWidget* parent)
-    : QDialog(parent), doc_(doc), slot_(slot), direction_(direction), prompts_(prompts),
+CustomToneDialog::CustomToneDialog(Codeplug& doc, DocumentHistory& history, int slot,
+                                   CodeDirection direction, WindowPrompts& prompts, QWidget* parent)
+    : QDialog(parent), doc_(doc), history_(history), slot_(slot), direction_(direction), prompts_(prompts),
       field_(new QLineEdit(this)) {
     setObjectName(QStringLiteral("CustomToneDialog"));
     setWindowTitle(QString::fromUtf8(l10n::fixed::kCustomToneTitle));
@@ -50,7 +51,8 @@ bool CustomToneDialog::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void CustomToneDialog::confirm() {
-    const CustomToneResult result = confirmCustomTone(doc_, slot_, direction_, field_->text());
+    CustomToneResult result;
+    history_.record([&] { result = confirmCustomTone(doc_, slot_, direction_, field_->text()); });
     field_->setText(result.fieldText);
     for (const Notice& notice : result.notices) {
         prompts_.showMessage(warningBox(noticeText(notice, doc_.language), doc_.language));

@@ -4,6 +4,7 @@
 
 #include "model/custom_tone.h"
 
+class DocumentHistory;
 class QLineEdit;
 class WindowPrompts;
 
@@ -13,8 +14,8 @@ class CustomToneDialog : public QDialog {
     Q_OBJECT
 
 public:
-    CustomToneDialog(Codeplug& doc, int slot, CodeDirection direction, WindowPrompts& prompts,
-                     QWidget* parent = nullptr);
+    CustomToneDialog(Codeplug& doc, DocumentHistory& history, int slot, CodeDirection direction,
+                     WindowPrompts& prompts, QWidget* parent = nullptr);
 
 Q_SIGNALS:
     // The tone was taken over; the grid redraws its code cells.
@@ -27,6 +28,7 @@ private:
     void confirm();
 
     Codeplug& doc_;
+    DocumentHistory& history_;
     int slot_;
     CodeDirection direction_;
     WindowPrompts& prompts_;

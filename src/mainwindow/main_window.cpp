@@ -1,12 +1,10 @@
 #include "mainwindow/main_window.h"
 
-#include <QActionGroup>
 #include <QComboBox>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QMenuBar>
 #include <QMouseEvent>
 #include <QPushButton>
 #include <QScreen>
@@ -17,6 +15,7 @@
 #include "l10n/window_texts.h"
 #include "mainwindow/channel_grid_model.h"
 #include "mainwindow/channel_grid_view.h"
+#include "mainwindow/document_history.h"
 #include "mainwindow/progress_window.h"
 #include "mainwindow/splash_screen.h"
 
@@ -26,12 +25,6 @@ namespace {
 constexpr double kWidthInches = 15800.0 / 1440.0;
 constexpr double kHeightInches = 10000.0 / 1440.0;
 constexpr int kStatusTimerMs = 1000;
-
-QAction* addNamedAction(QMenu* menu, const char* objectName) {
-    QAction* action = menu->addAction(QString());
-    action->setObjectName(QString::fromLatin1(objectName));
-    return action;
-}
 
 QString fixedText(const char* text) {
     return QString::fromUtf8(text);
@@ -49,10 +42,21 @@ MainWindow::MainWindow(MainWindowSetup setup, SerialPort& port, Clock& clock,
       portControl_(port, std::move(setup.catalogue), statusRelay_, doc_.language),
       transport_(port, clock) {
     setObjectName(QStringLiteral("Form1"));
-    gridModel_ = new ChannelGridModel(doc_, this);
+    history_ = new DocumentHistory(doc_, [this] { refreshDocumentViews(); }, this);
+    gridModel_ = new ChannelGridModel(doc_, *history_, this);
     gridModel_->setNoticeHandler([this](const Notices& notices) { showNotices(notices); });
 
     buildMenus();
+    // Undo and redo are keys only: the menu bar keeps the items the program always had.
+    undoAction_ = new QAction(this);
+    undoAction_->setObjectName(QStringLiteral("undo"));
+    undoAction_->setShortcut(QKeySequence::Undo);
+    redoAction_ = new QAction(this);
+    redoAction_->setObjectName(QStringLiteral("redo"));
+    redoAction_->setShortcut(QKeySequence::Redo);
+    addActions({undoAction_, redoAction_});
+    connect(undoAction_, &QAction::triggered, this, [this] { stepHistory(true); });
+    connect(redoAction_, &QAction::triggered, this, [this] { stepHistory(false); });
     auto* central = new QWidget(this);
     auto* layout = new QHBoxLayout(central);
     layout->addWidget(buildSettingsPanel());
@@ -148,106 +152,6 @@ void MainWindow::showWithSplash() {
 void MainWindow::mousePressEvent(QMouseEvent* event) {
     if (splash_) splash_->close();
     QMainWindow::mousePressEvent(event);
-}
-
-void MainWindow::buildMenus() {
-    fileMenu_ = menuBar()->addMenu(QString());
-    fileMenu_->setObjectName(QStringLiteral("MenuFile"));
-    openAction_ = addNamedAction(fileMenu_, "MenuFileOpen");
-    saveAction_ = addNamedAction(fileMenu_, "MenuSave");
-    fileMenu_->addSeparator();
-    exitAction_ = addNamedAction(fileMenu_, "FormCancel");
-    exitAction_->setCheckable(true);  // checked while the exit question is open
-    connect(openAction_, &QAction::triggered, this, &MainWindow::openFile);
-    connect(saveAction_, &QAction::triggered, this, &MainWindow::saveFile);
-    connect(exitAction_, &QAction::triggered, this, [this] {
-        statusTimer_.stop();
-        exitAction_->setChecked(true);
-        close();
-    });
-
-    setupMenu_ = menuBar()->addMenu(QString());
-    setupMenu_->setObjectName(QStringLiteral("chuankoushezhi"));
-    portMenu_ = setupMenu_->addMenu(QString());
-    portMenu_->setObjectName(QStringLiteral("com"));
-    for (int number = 1; number <= PortControl::kScannedPorts; ++number) {
-        QAction* item =
-            portMenu_->addAction(fixedText(l10n::fixed::kComItemPrefix) + QString::number(number));
-        item->setObjectName(QStringLiteral("com%1").arg(number));
-        item->setCheckable(true);
-        connect(item, &QAction::triggered, this, [this, number] { portMenuChosen(number); });
-        portActions_[number] = item;
-    }
-    QAction* comx = portMenu_->addAction(fixedText(l10n::fixed::kComxItem));
-    comx->setObjectName(QStringLiteral("comx"));
-    comx->setCheckable(true);
-    connect(comx, &QAction::triggered, this, &MainWindow::openPortPicker);
-    portActions_[PortControl::kComxItem] = comx;
-
-    rateMenu_ = setupMenu_->addMenu(QString());
-    rateMenu_->setObjectName(QStringLiteral("botelv"));
-    QAction* rate = rateMenu_->addAction(fixedText(l10n::fixed::kRateItem));
-    rate->setCheckable(true);
-    rate->setChecked(true);
-    otherAction_ = addNamedAction(setupMenu_, "qita");
-    setupMenu_->addSeparator();
-    modelMenu_ = setupMenu_->addMenu(QString());
-    modelMenu_->setObjectName(QStringLiteral("jixinxinxi"));
-    QAction* model = modelMenu_->addAction(fixedText(l10n::fixed::kModelItem));
-    model->setCheckable(true);
-    model->setChecked(true);
-    setupMenu_->addSeparator();
-
-    programMenu_ = menuBar()->addMenu(QString());
-    programMenu_->setObjectName(QStringLiteral("xie"));
-    programMenu_->addSeparator();
-    readAction_ = addNamedAction(programMenu_, "WriteChn");
-    programMenu_->addSeparator();
-    writeAction_ = addNamedAction(programMenu_, "StartWrite");
-    connect(readAction_, &QAction::triggered, this, &MainWindow::startRead);
-    connect(writeAction_, &QAction::triggered, this, &MainWindow::startWrite);
-    // The engineering windows hang here; they are not part of this program yet.
-    programMenu_->addSeparator();
-    engineeringAction_ = addNamedAction(programMenu_, "gcms");
-    programMenu_->addSeparator();
-    audioTestAction_ = addNamedAction(programMenu_, "ypcs");
-    programMenu_->addSeparator();
-    testModeAction_ = addNamedAction(programMenu_, "csms");
-    for (const auto& [name, caption] : {std::pair{"RFReg_Test", l10n::fixed::kRegisterTestItem},
-                                        {"yjx", l10n::fixed::kHardwareItem},
-                                        {"mp3", l10n::fixed::kMp3Item},
-                                        {"crs", l10n::fixed::kCrystalItem}}) {
-        programMenu_->addSeparator();
-        QAction* item = addNamedAction(programMenu_, name);
-        item->setText(fixedText(caption));
-        item->setEnabled(false);
-    }
-    programMenu_->addSeparator();
-    identityAction_ = addNamedAction(programMenu_, "xid");
-    programMenu_->addSeparator();
-    QAction* bootLoader = addNamedAction(programMenu_, "prg");
-    bootLoader->setText(fixedText(l10n::fixed::kBootLoaderItem));
-    connect(bootLoader, &QAction::triggered, this, &MainWindow::openBootLoader);
-    for (QAction* item : {engineeringAction_, audioTestAction_, testModeAction_, identityAction_}) {
-        item->setEnabled(false);
-    }
-
-    languageMenu_ = menuBar()->addMenu(QString());
-    languageMenu_->setObjectName(QStringLiteral("lang"));
-    auto* languages = new QActionGroup(this);
-    chineseAction_ = addNamedAction(languageMenu_, "chn");
-    chineseAction_->setText(fixedText(l10n::fixed::kChineseItem));
-    englishAction_ = addNamedAction(languageMenu_, "eng");
-    englishAction_->setText(fixedText(l10n::fixed::kEnglishItem));
-    for (QAction* item : {chineseAction_, englishAction_}) {
-        item->setCheckable(true);
-        languages->addAction(item);
-    }
-    (doc_.language == UiLanguage::English ? englishAction_ : chineseAction_)->setChecked(true);
-    connect(chineseAction_, &QAction::triggered, this,
-            [this] { switchLanguage(UiLanguage::Chinese); });
-    connect(englishAction_, &QAction::triggered, this,
-            [this] { switchLanguage(UiLanguage::English); });
 }
 
 QWidget* MainWindow::buildSettingsPanel() {

@@ -24,6 +24,7 @@ class QMenu;
 class QPushButton;
 class BootLoaderWindow;
 class ChannelGridModel;
+class DocumentHistory;
 class ChannelGridView;
 class PortPickerDialog;
 class ProgressWindow;
@@ -97,6 +98,7 @@ private:
     void refreshDocumentViews();
     void switchLanguage(UiLanguage language);
     void settingChosen(SettingKey key, int index);
+    void takeOverSetting(SettingKey key, int index);
     void channelCountChosen(const QString& text);
     void stepChosen(const QString& text);
     void showNotices(const Notices& notices);
@@ -121,6 +123,7 @@ private:
     void sessionFinished();
     void progressClosedByUser();
     void closeGridEditor();
+    void stepHistory(bool back);
 
     Codeplug doc_;
     QString configPath_;
@@ -134,6 +137,9 @@ private:
     std::unique_ptr<RadioSession> finishedSession_;
     std::optional<StatusText> status_;  // the message shown, with only its suffix as text
 
+    DocumentHistory* history_ = nullptr;
+    QAction* undoAction_ = nullptr;
+    QAction* redoAction_ = nullptr;
     QTimer statusTimer_;  // Timer1: the port state in the status bar, a second after resuming
     ChannelGridModel* gridModel_ = nullptr;
     ChannelGridView* grid_ = nullptr;

@@ -11,6 +11,9 @@
 void MainWindow::refreshPortViews() {
     for (int item = 1; item <= PortControl::kComxItem; ++item) {
         portActions_[item]->setChecked(portControl_.checkedItem() == item);
+        if (item < PortControl::kComxItem) {
+            portActions_[item]->setToolTip(portControl_.catalogue().deviceFor(item));
+        }
     }
     const QSignalBlocker quiet(portList_);
     portList_->clear();
@@ -41,6 +44,7 @@ void MainWindow::portListChosen(int index) {
 void MainWindow::scanPorts() {
     portControl_.check_uart();
     refreshPortViews();
+    statusTimer_.start();  // the scan leaves the port closed; the status bar says so shortly
 }
 
 void MainWindow::openPortPicker() {

@@ -1,13 +1,16 @@
 #include <QAction>
 #include <QCloseEvent>
+#include <QComboBox>
+#include <QLabel>
+#include <QMenu>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QStatusBar>
-#include <QLabel>
 
 #include "link/read_session.h"
 #include "link/write_session.h"
 #include "mainwindow/channel_grid_view.h"
+#include "mainwindow/document_history.h"
 #include "mainwindow/main_window.h"
 #include "mainwindow/port_picker_dialog.h"
 #include "mainwindow/progress_window.h"
@@ -32,6 +35,13 @@ void MainWindow::WidgetSessionView::setSessionButtonsEnabled(bool enabled) {
     }
     window_.readAction_->setEnabled(enabled);
     window_.writeAction_->setEnabled(enabled);
+    // The port stays as it is while a session uses it.
+    window_.portList_->setEnabled(enabled);
+    window_.scanButton_->setEnabled(enabled);
+    window_.portMenu_->setEnabled(enabled);
+    // A step back while a read fills the grid would be overwritten at once.
+    window_.undoAction_->setEnabled(enabled);
+    window_.redoAction_->setEnabled(enabled);
 }
 
 void MainWindow::WidgetSessionView::showProgress(const QString& caption) {
@@ -74,6 +84,7 @@ void MainWindow::startSession(std::unique_ptr<RadioSession> session) {
     RadioSession* started = session.get();
     connect(started, &RadioSession::finished, this, &MainWindow::sessionFinished);
     session_ = std::move(session);
+    history_->begin();
     if (!started->start() && session_.get() == started) {
         // Refused before anything happened; the user has been told why.
         session_.reset();
@@ -84,6 +95,7 @@ void MainWindow::sessionFinished() {
     // The session is still on the stack that reported its end; it goes at the next start, or
     // with the window, before the transport it knows.
     finishedSession_ = std::move(session_);
+    history_->end();  // a whole read is one step
     refreshDocumentViews();
 }
 
@@ -117,4 +129,14 @@ void MainWindow::closeEvent(QCloseEvent* event) {
     if (portPicker_) portPicker_->close();
     progress_->hide();
     event->accept();
+}
+
+void MainWindow::stepHistory(bool back) {
+    if (sessionRunning()) return;
+    closeGridEditor();
+    if (back) {
+        history_->stack().undo();
+    } else {
+        history_->stack().redo();
+    }
 }

@@ -10,6 +10,7 @@
 #include "mainwindow/channel_grid_model.h"
 #include "mainwindow/channel_grid_view.h"
 #include "mainwindow/custom_tone_dialog.h"
+#include "mainwindow/document_history.h"
 #include "mainwindow/main_window.h"
 #include "model/presets.h"
 #include "persistence/codeplug_file.h"
@@ -138,6 +139,11 @@ void MainWindow::switchLanguage(UiLanguage language) {
 
 void MainWindow::settingChosen(SettingKey key, int index) {
     closeGridEditor();
+    history_->record([&] { takeOverSetting(key, index); });
+    refreshDocumentViews();
+}
+
+void MainWindow::takeOverSetting(SettingKey key, int index) {
     switch (key) {
         case SettingKey::freqsel:
             if (const std::optional<QString> title = applyStandard(doc_, index)) {
@@ -156,18 +162,19 @@ void MainWindow::settingChosen(SettingKey key, int index) {
                                  doc_.language);
             break;
     }
-    refreshDocumentViews();
 }
 
 void MainWindow::channelCountChosen(const QString& text) {
     closeGridEditor();
-    setChannelCount(doc_, text);
+    history_->record([&] { setChannelCount(doc_, text); });
     refreshDocumentViews();
 }
 
 void MainWindow::stepChosen(const QString& text) {
-    doc_.freqstep = text;
-    RESET_FER(doc_);
+    history_->record([&] {
+        doc_.freqstep = text;
+        RESET_FER(doc_);
+    });
     refreshDocumentViews();
 }
 
@@ -178,7 +185,7 @@ void MainWindow::showNotices(const Notices& notices) {
 }
 
 void MainWindow::openCustomToneDialog(int slot, CodeDirection direction) {
-    auto* dialog = new CustomToneDialog(doc_, slot, direction, prompts_, this);
+    auto* dialog = new CustomToneDialog(doc_, *history_, slot, direction, prompts_, this);
     connect(dialog, &CustomToneDialog::toneAccepted, gridModel_, &ChannelGridModel::refresh);
     dialog->open();
 }
@@ -188,10 +195,11 @@ void MainWindow::openFile() {
     if (path.isEmpty()) return;
     closeGridEditor();
     statusTimer_.stop();
-    const Result<LoadedCodeplug> result = openCodeplugFile(doc_, path);
-    if (!result) {
+    std::optional<Result<LoadedCodeplug>> result;
+    history_->record([&] { result.emplace(openCodeplugFile(doc_, path)); });
+    if (!*result) {
         statusRelay_.showMessage(
-            warningBox(l10n::describeError(result.error(), doc_.language), doc_.language));
+            warningBox(l10n::describeError(result->error(), doc_.language), doc_.language));
     }
     // Menu and button alike refresh every view from the document: the settings are the truth.
     applyCaptions();
@@ -204,7 +212,7 @@ void MainWindow::saveFile() {
     if (path.isEmpty()) return;
     if (QFileInfo(path).suffix().isEmpty()) path += QStringLiteral(".qzv");
     closeGridEditor();
-    RESET_TEXT(doc_);
+    history_->record([this] { RESET_TEXT(doc_); });
     if (const Result<void> saved = WriteSaveFile(doc_, path); !saved) {
         statusRelay_.showMessage(
             warningBox(l10n::describeError(saved.error(), doc_.language), doc_.language));

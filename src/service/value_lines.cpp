@@ -73,16 +73,16 @@ QStringList calibrationValueLines(const CalibrationValues& values) {
 bool applyCalibrationValues(const std::vector<Assignment>& values, CalibrationValues* target,
                             QString* error) {
     CalibrationValues changed = *target;
-    for (const auto& [name, value] : values) {
+    for (const Assignment& assignment : values) {
         const auto& fields = calibrationFields();
         const auto field = std::find_if(fields.begin(), fields.end(), [&](const auto& info) {
-            return info.recordByte >= 0 && name == QLatin1String(info.name);
+            return info.recordByte >= 0 && assignment.first == QLatin1String(info.name);
         });
         if (field == fields.end()) {
-            *error = name;
+            *error = assignment.first;
             return false;
         }
-        changed[field->field] = value;
+        changed[field->field] = assignment.second;
     }
     *target = changed;
     return true;

@@ -65,12 +65,15 @@ TEST(Sessions, ClosingTheProgressWindowCancelsARead) {
     QTest::mouseClick(f.find<QPushButton>("Command2"), Qt::LeftButton);
     auto* progress = f.find<ProgressWindow>("Form5");
     ASSERT_TRUE(f.waitFor([&] { return progress->bar().value() >= 9; }));
+    EXPECT_FALSE(f.find<QComboBox>("Combo18")->isEnabled());  // the port stays while in use
+    EXPECT_FALSE(f.find<QPushButton>("Command3")->isEnabled());
     progress->close();
     EXPECT_FALSE(f.window->sessionRunning());
     EXPECT_EQ(f.prompts.boxTexts(), QStringList{"Read Error"});
     EXPECT_TRUE(buttonsEnabled(f));
     EXPECT_FALSE(progress->isVisible());
     EXPECT_TRUE(f.port.isOpen());
+    EXPECT_TRUE(f.find<QComboBox>("Combo18")->isEnabled());
 
     // Nothing half-sent is left behind: the next read runs to its end.
     f.port.setSimulatorPacing(false);
@@ -91,6 +94,20 @@ TEST(Sessions, YesToTheExitQuestionDuringAReadCancelsItAndClosesThePort) {
     EXPECT_FALSE(f.port.isOpen());
 }
 
+TEST(Sessions, ASilentRadioEndsTheReadWithTheLinkMessage) {
+    WindowFixture f;
+    SimFaults faults;
+    faults.silentAlways = true;
+    f.radio().setFaults(faults);
+    QTest::mouseClick(f.find<QPushButton>("Command2"), Qt::LeftButton);
+    ASSERT_TRUE(f.waitFor([&] { return !f.window->sessionRunning(); }));
+    ASSERT_FALSE(f.prompts.boxes.empty());
+    EXPECT_EQ(f.prompts.boxes.front().text, "Transmission Error，Check Radio");
+    EXPECT_TRUE(buttonsEnabled(f));
+    EXPECT_FALSE(f.find<ProgressWindow>("Form5")->isVisible());
+    EXPECT_EQ(f.text(0, Col::RxFrequency), "000.00000");
+}
+
 TEST(Sessions, AReadWithThePortClosedOnlySaysSo) {
     WindowFixture f;
     f.find<QAction>("com3")->trigger();  // no such port: closed
@@ -99,6 +116,38 @@ TEST(Sessions, AReadWithThePortClosedOnlySaysSo) {
     EXPECT_EQ(f.prompts.boxTexts(), QStringList{"Please check COM Port"});
     EXPECT_TRUE(buttonsEnabled(f));
     EXPECT_FALSE(f.window->sessionRunning());
+}
+
+}  // namespace
+
+namespace {
+
+TEST(History, UndoAndRedoCoverEditsAndAWholeReadInAnyLanguage) {
+    WindowFixture f(startupDocument(UiLanguage::Chinese));
+    QAction* undo = f.find<QAction>("undo");
+    QAction* redo = f.find<QAction>("redo");
+    f.click(1, Col::Bandwidth);
+    f.choose("Combo12", 4);  // five channels
+    EXPECT_EQ(f.text(1, Col::Bandwidth), QStringLiteral("宽带"));
+
+    f.find<QAction>("eng")->trigger();  // a language switch is no step of its own
+    undo->trigger();
+    EXPECT_EQ(f.window->document().chtot, "22");
+    undo->trigger();
+    EXPECT_EQ(f.text(1, Col::Bandwidth), "narrow");
+    redo->trigger();
+    EXPECT_EQ(f.text(1, Col::Bandwidth), "wide");
+
+    QTest::mouseClick(f.find<QPushButton>("Command2"), Qt::LeftButton);
+    EXPECT_FALSE(undo->isEnabled());
+    ASSERT_TRUE(f.waitFor([&] { return !f.window->sessionRunning(); }));
+    const QString readRx = f.text(0, Col::RxFrequency);
+    EXPECT_NE(readRx, "000.00000");
+    undo->trigger();
+    EXPECT_EQ(f.text(0, Col::RxFrequency), "000.00000");
+    EXPECT_EQ(f.text(1, Col::Bandwidth), "wide");
+    redo->trigger();
+    EXPECT_EQ(f.text(0, Col::RxFrequency), readRx);
 }
 
 }  // namespace

@@ -118,6 +118,7 @@ TEST(Ports, TheListMenuAndPickerFollowThePortControl) {
     EXPECT_EQ(items(list), QStringList{"sim"});
     EXPECT_EQ(list->itemData(0, Qt::ToolTipRole).toString(), "sim");
     EXPECT_TRUE(f.find<QAction>("com1")->isChecked());
+    EXPECT_EQ(f.find<QAction>("com1")->toolTip(), "sim");
 
     // A port without a device: the warning, no check mark, the port closed.
     f.find<QAction>("com3")->trigger();
