@@ -125,5 +125,21 @@ int main(int argc, char** argv) {
     window.resize(900, 560);
     settle();
     save(QStringLiteral("7-resized-small"), window.frameGeometry());
+
+    // The boot loader window after an erase of the simulated radio.
+    window.findChild<QAction*>(QStringLiteral("prg"))->trigger();
+    auto* boot = window.findChild<QWidget*>(QStringLiteral("FormBoot"));
+    check(boot && QTest::qWaitForWindowExposed(boot), "boot loader window shown");
+    if (boot) {
+        boot->move(40, 40);
+        boot->findChild<QPushButton*>(QStringLiteral("Command5"))->click();
+        check(QTest::qWaitFor([&] {
+                  return boot->findChild<QPushButton*>(QStringLiteral("Command5"))->isEnabled();
+              }, 15000),
+              "erase finished");
+        settle();
+        save(QStringLiteral("8-boot-loader"), boot->frameGeometry());
+        boot->close();
+    }
     return failures == 0 ? 0 : 1;
 }
