@@ -92,6 +92,13 @@ void LinkTransport::transmit() {
         flushTracedJunk();
         trace_->sent(clock_.nowMs() - traceOriginMs_, frame_);
     }
+    if (style_ == SendStyle::Immediate) {
+        // The reply is awaited from the first byte on: a quick one may come back before the
+        // port has told that the request has drained.
+        phase_ = Phase::AwaitingReply;
+        armAttempt();
+        return;
+    }
     phase_ = Phase::Draining;
     if (port_.bytesToWrite() == 0) startSettle();
 }
@@ -101,11 +108,6 @@ void LinkTransport::onDrained() {
 }
 
 void LinkTransport::startSettle() {
-    if (style_ == SendStyle::Immediate) {
-        phase_ = Phase::AwaitingReply;
-        armAttempt();
-        return;
-    }
     phase_ = Phase::Settling;
     settleStart_ = clock_.nowMs();
     settleTimer_->start(kSettleMs);

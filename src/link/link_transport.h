@@ -36,8 +36,8 @@ public:
 
     // How a frame goes on the line. Settled (send_uart): receive events off while sending,
     // then 20 ms after the drain, with whatever arrived meanwhile discarded. Immediate
-    // (send_uart_data, the boot loader's way): receive events stay on and the reply is
-    // awaited as soon as the line has drained.
+    // (send_uart_data, the boot loader's way): receive events stay on and the reply timer runs
+    // from the moment the frame is written, so that a reply is taken however early it comes.
     enum class SendStyle { Settled, Immediate };
     static constexpr int kSettleMs = 20;
     // A fresh attempt count allows three attempts; the radio's tool expressed one attempt as

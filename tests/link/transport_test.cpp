@@ -205,6 +205,17 @@ TEST_F(TransportTest, AFrameOfALengthTheRequestDoesNotTakeIsIgnoredAndTheWaitGoe
     EXPECT_EQ(client.replies[0], hexBytes("13001000"));
 }
 
+TEST_F(TransportTest, AnImmediateRequestTakesAReplyThatComesBeforeTheDrain) {
+    port.drainDelayMs = 50;
+    transport.request(hexBytes("3b0300000 03e"), 100, 1, kAny, LinkTransport::SendStyle::Immediate);
+    EXPECT_TRUE(port.receiveNotification());
+    clock.advance(10);
+    port.inject(hexBytes("4100 41"));
+    EXPECT_EQ(client.replies.size(), 1u);
+    clock.advance(200);
+    EXPECT_TRUE(client.failures.empty());
+}
+
 TEST_F(TransportTest, APortThatFailsAfterAnUnansweredFrameHasDrainedTakesNothingBack) {
     port.drainDelayMs = 3;
     transport.send_uart(hexBytes("450045"));
