@@ -4,6 +4,7 @@
 #include <QDateTime>
 #include <cstdio>
 
+#include "l10n/error_texts.h"
 #include "link/port_catalogue.h"
 #include "mainwindow/main_window.h"
 #include "mainwindow/port_with_simulator.h"
@@ -74,7 +75,13 @@ int main(int argc, char** argv) {
     const QString configPath = configFilePath(parser.value(config));
     MainWindowSetup setup;
     setup.configPath = configPath;
-    setup.document = loadStartupCodeplug(configPath, ConfigCompletion::SaveMissingKeys, language);
+    setup.document = loadStartupCodeplug(configPath, ConfigCompletion::SaveMissingKeys, language,
+                                         &setup.configUnreadable);
+    if (setup.configUnreadable) {
+        std::fprintf(
+            stderr, "radioprog: %s\n",
+            qPrintable(l10n::configWarning(*setup.configUnreadable, setup.document.language)));
+    }
     QMap<int, QString> pins = readPortPins(configPath);
     if (parser.isSet(simulator)) setup.portToSelect = pinSimulator(pins);
     setup.catalogue = PortCatalogue::fromSystem(pins);

@@ -1,11 +1,13 @@
 #include "cli/plan_printer.h"
 
+#include "l10n/display_width.h"
 #include "l10n/texts.h"
 
 namespace {
 
+// Padded by the columns a terminal gives it, so that Chinese captions and words line up.
 QString column(const QString& text, int width) {
-    return text.leftJustified(width);
+    return l10n::padToWidth(text, width);
 }
 
 }  // namespace
@@ -15,7 +17,7 @@ void printCodeplug(QTextStream& out, const Codeplug& doc) {
     const auto editable = RESET_Ch_Sel(doc);
 
     using namespace l10n;
-    out << column(caption(CapChannel, lang), 9) << column(caption(CapRxFrequency, lang), 14)
+    out << column(caption(CapChannel, lang), 8) << column(caption(CapRxFrequency, lang), 14)
         << column(caption(CapRxCode, lang), 10) << column(caption(CapTxFrequency, lang), 14)
         << column(caption(CapTxCode, lang), 10) << column(caption(CapBandwidth, lang), 10)
         << caption(CapPower, lang) << '\n';

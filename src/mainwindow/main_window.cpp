@@ -12,6 +12,7 @@
 #include <QVBoxLayout>
 
 #include "bootloader/ui/boot_loader_window.h"
+#include "l10n/error_texts.h"
 #include "l10n/window_texts.h"
 #include "mainwindow/channel_grid_model.h"
 #include "mainwindow/channel_grid_view.h"
@@ -25,6 +26,7 @@ namespace {
 constexpr double kWidthInches = 15800.0 / 1440.0;
 constexpr double kHeightInches = 10000.0 / 1440.0;
 constexpr int kStatusTimerMs = 1000;
+constexpr int kConfigWarningMs = 10000;
 
 QString fixedText(const char* text) {
     return QString::fromUtf8(text);
@@ -42,7 +44,8 @@ MainWindow::MainWindow(MainWindowSetup setup, SerialPort& port, Clock& clock,
       portControl_(port, std::move(setup.catalogue), statusRelay_, doc_.language),
       transport_(port, clock) {
     setObjectName(QStringLiteral("Form1"));
-    history_ = new DocumentHistory(doc_, [this] { refreshDocumentViews(); }, this);
+    history_ = new DocumentHistory(
+        doc_, [this] { refreshDocumentViews(); }, this);
     gridModel_ = new ChannelGridModel(doc_, *history_, this);
     gridModel_->setNoticeHandler([this](const Notices& notices) { showNotices(notices); });
 
@@ -94,6 +97,11 @@ MainWindow::MainWindow(MainWindowSetup setup, SerialPort& port, Clock& clock,
     });
 
     startUp(setup.portToSelect);
+    if (setup.configUnreadable) {
+        // Over the port state for a while: the defaults apply, and the user should know why.
+        statusBar()->showMessage(l10n::configWarning(*setup.configUnreadable, doc_.language),
+                                 kConfigWarningMs);
+    }
 }
 
 MainWindow::~MainWindow() {

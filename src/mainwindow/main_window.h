@@ -35,7 +35,8 @@ struct MainWindowSetup {
     Codeplug document;  // built from config.ini
     QString configPath;
     PortCatalogue catalogue;
-    std::optional<int> portToSelect;  // chosen after the start-up scan (the simulated radio)
+    std::optional<int> portToSelect;        // chosen after the start-up scan (the simulated radio)
+    std::optional<Error> configUnreadable;  // config.ini is there but could not be read
 };
 
 // The main window: menus, the settings panel, the channel grid, the edit panel, the buttons

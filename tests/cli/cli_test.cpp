@@ -2,9 +2,11 @@
 #include <gtest/gtest.h>
 
 #include <QProcess>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 
 #include "cli_run.h"
+#include "l10n/display_width.h"
 #include "persistence/config_file.h"
 #include "test_support.h"
 
@@ -43,6 +45,25 @@ TEST_F(CliTest, ShowPrintsEveryLayoutAndRefusesWhatItCannotRead) {
     EXPECT_EQ(refused.err.count(QLatin1Char('\n')), 1);
     EXPECT_TRUE(refused.err.contains(missing + QStringLiteral(": cannot open the file")))
         << refused.err.toStdString();
+}
+
+TEST_F(CliTest, TheChinesePlanTableLinesUpInATerminal) {
+    const CliRun run = cli(config_ + QStringList{"--lang", "zh", "show", samplePath("v13.qzv")});
+    ASSERT_EQ(run.status, 0);
+    const QStringList lines = run.out.split('\n');
+    const int header = lines.indexOf(QRegularExpression("信道.*"));
+    ASSERT_GE(header, 0) << run.out.toStdString();
+    // The transmit frequency column starts at the same terminal column in the header and rows.
+    const auto txColumn = [](const QString& line, const QString& at) {
+        return l10n::displayWidth(line.left(line.lastIndexOf(at)));
+    };
+    const int expected = txColumn(lines[header], "发射频率");
+    for (int row = header + 1; row <= header + 25; ++row) {
+        const QStringList cells = lines[row].split(' ', Qt::SkipEmptyParts);
+        ASSERT_GE(cells.size(), 5) << lines[row].toStdString();
+        EXPECT_EQ(txColumn(lines[row], " " + cells[4] + " ") + 1, expected)
+            << lines[row].toStdString();
+    }
 }
 
 TEST_F(CliTest, ShowWithoutAFileUsesTheConfiguration) {

@@ -1,6 +1,6 @@
-#include <gtest/gtest.h>
-
 #include "l10n/texts.h"
+
+#include <gtest/gtest.h>
 
 using l10n::MessageId;
 
@@ -36,10 +36,13 @@ TEST(TextTables, EntriesSitAtTheirPositionsInBothLanguages) {
         {l10n::idCaption, 6, "读ID", "Read ID"},
         {messageAt, 0, "该串口不存在或有问题", "COM error"},
         {messageAt, 8, "正在读频......", "Reading......"},
-        {messageAt, 13, "信道频率输入错误，请重新输入", "Channl Frequency Input error，Please edit again"},
-        {messageAt, 21, "通讯失败，请检查对讲机是否进入写频模式", "Transmission Error，Check Radio"},
+        {messageAt, 13, "信道频率输入错误，请重新输入",
+         "Channl Frequency Input error，Please edit again"},
+        {messageAt, 21, "通讯失败，请检查对讲机是否进入写频模式",
+         "Transmission Error，Check Radio"},
         {messageAt, 25, "写频失败，请检查输入是否正确", "Write Error，Please check"},
-        {messageAt, 29, "CTCSS 频率输入错误，请重新输入", "CTCSS Frequency Input error，Please edit again"},
+        {messageAt, 29, "CTCSS 频率输入错误，请重新输入",
+         "CTCSS Frequency Input error，Please edit again"},
     };
     for (const Entry& e : entries) {
         SCOPED_TRACE(e.index);
@@ -78,6 +81,32 @@ TEST(TextTables, OnlyTheExactWordEnglishSelectsEnglish) {
         EXPECT_EQ(languageFromConfigText(text), UiLanguage::Chinese) << text;
     EXPECT_EQ(configTextOf(UiLanguage::English), "English");
     EXPECT_EQ(configTextOf(UiLanguage::Chinese), "Chinese");
+}
+
+}  // namespace
+
+#include "l10n/display_width.h"
+
+namespace {
+
+TEST(DisplayWidth, WideCharactersTakeTwoColumns) {
+    const struct {
+        QString text;
+        int width;
+    } cases[] = {
+        {"", 0},
+        {"446.00625", 9},
+        {"窄带", 4},
+        {"接收亚音", 8},
+        {"Write Error，Please Check", 25},  // a full-width comma
+        {"自定义", 6},
+        {"D023", 4},
+    };
+    for (const auto& c : cases) {
+        EXPECT_EQ(l10n::displayWidth(c.text), c.width) << c.text.toStdString();
+    }
+    EXPECT_EQ(l10n::padToWidth("大", 4), "大  ");
+    EXPECT_EQ(l10n::padToWidth("high", 2), "high");
 }
 
 }  // namespace

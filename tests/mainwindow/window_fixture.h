@@ -51,8 +51,10 @@ inline Codeplug startupDocument(UiLanguage language = UiLanguage::English, bool 
 // The main window on the in-process simulated radio, which the catalogue knows as COM1.
 class WindowFixture {
 public:
-    explicit WindowFixture(Codeplug doc = startupDocument()) {
+    explicit WindowFixture(Codeplug doc = startupDocument(),
+                           std::optional<Error> configUnreadable = std::nullopt) {
         MainWindowSetup setup;
+        setup.configUnreadable = std::move(configUnreadable);
         setup.document = std::move(doc);
         setup.configPath = dir.filePath(QStringLiteral("config.ini"));
         setup.catalogue = PortCatalogue({}, {{1, PortWithSimulator::simulatorDevice()}});

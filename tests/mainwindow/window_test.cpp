@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QMenu>
 #include <QPushButton>
+#include <QStatusBar>
 
 #include "persistence/config_file.h"
 #include "window_fixture.h"
@@ -45,7 +46,8 @@ TEST(Language, TheSwitchRedrawsTheWindowAndKeepsWhatWasChosenAndEdited) {
     EXPECT_TRUE(f.find<QAction>("eng")->isChecked());
     EXPECT_FALSE(f.find<QAction>("chn")->isChecked());
     // The status bar says the same thing in the new language.
-    EXPECT_TRUE(f.find<QLabel>("Panel1")->text().startsWith("COM")) << f.find<QLabel>("Panel1")->text().toStdString();
+    EXPECT_TRUE(f.find<QLabel>("Panel1")->text().startsWith("COM"))
+        << f.find<QLabel>("Panel1")->text().toStdString();
     // The choice outlives the run.
     EXPECT_EQ(ReadConfigFile(f.dir.filePath("config.ini")).language, UiLanguage::English);
 
@@ -53,6 +55,14 @@ TEST(Language, TheSwitchRedrawsTheWindowAndKeepsWhatWasChosenAndEdited) {
     EXPECT_EQ(f.find<QMenu>("MenuFile")->title(), QStringLiteral("文件(&F)"));
     EXPECT_EQ(f.find<QComboBox>("Combo5")->currentText(), QStringLiteral("禁止"));
     EXPECT_EQ(f.text(4, Col::Bandwidth), QStringLiteral("宽带"));
+}
+
+TEST(Startup, AConfigurationThatCannotBeReadIsNamedInTheStatusBar) {
+    WindowFixture world(startupDocument(),
+                        Error::inFile(ErrorKind::CannotOpen, "/etc/radioprog/config.ini"));
+    const QString shown = world.window->statusBar()->currentMessage();
+    EXPECT_TRUE(shown.contains("/etc/radioprog/config.ini")) << shown.toStdString();
+    EXPECT_TRUE(shown.contains("defaults")) << shown.toStdString();
 }
 
 TEST(Exit, NoKeepsThePortOpenAndYesClosesIt) {
