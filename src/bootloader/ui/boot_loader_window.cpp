@@ -111,7 +111,10 @@ BootLoaderWindow::BootLoaderWindow(LinkTransport& transport, WindowPrompts& prom
     connect(cancelButton_, &QPushButton::clicked, &session_, &BootSession::cancel);
     connect(&session_, &BootSession::logLine, this, &BootLoaderWindow::appendLog);
     connect(&session_, &BootSession::progressChanged, progress_, &QProgressBar::setValue);
-    connect(&session_, &BootSession::finished, this, &BootLoaderWindow::finished);
+    // Queued: finishing may ask for a file, and a dialog's event loop does not belong inside
+    // the link's handling of the reply that ended the job.
+    connect(&session_, &BootSession::finished, this, &BootLoaderWindow::finished,
+            Qt::QueuedConnection);
 }
 
 BootLoaderWindow::~BootLoaderWindow() {
@@ -133,7 +136,7 @@ void BootLoaderWindow::chooseOutput() {
 }
 
 void BootLoaderWindow::run(BootSession::Operation operation) {
-    if (session_.isRunning()) return;
+    if (busy_) return;
     BootSession::Job job;
     job.operation = operation;
     job.start = boot::parseAddress(startEdit_->text());
@@ -175,6 +178,7 @@ void BootLoaderWindow::appendLog(const QString& line) {
 }
 
 void BootLoaderWindow::setBusy(bool busy) {
+    busy_ = busy;
     for (QWidget* control :
          std::initializer_list<QWidget*>{eraseButton_, writeButton_, readButton_, imageButton_,
                                          outputButton_, startEdit_, endEdit_, verifyBox_}) {

@@ -24,7 +24,8 @@ public:
                      QWidget* parent = nullptr);
     ~BootLoaderWindow() override;
 
-    bool isBusy() const { return session_.isRunning(); }
+    // From the button press until the window has taken the job's end.
+    bool isBusy() const { return busy_; }
 
 private:
     void chooseImage();
@@ -38,6 +39,7 @@ private:
     UiLanguage language_;
     BootSession session_;
     BootSession::Operation running_ = BootSession::Operation::Erase;
+    bool busy_ = false;
 
     QPushButton* eraseButton_;  // Command5
     QPushButton* writeButton_;  // Command3
