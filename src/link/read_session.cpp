@@ -57,7 +57,9 @@ void ReadSession::replyIgnored(int length) {
 }
 
 void ReadSession::noteUnread(l10n::SessionText reason, int length) {
-    unreadChannels_ << l10n::sessionText(reason, language_).arg(channel_ + 1).arg(length);
+    QString line = l10n::sessionText(reason, language_).arg(channel_ + 1);
+    if (reason == l10n::SessionText::ChannelWrongLength) line = line.arg(length);
+    unreadChannels_ << line;
 }
 
 void ReadSession::warnUnread() {
