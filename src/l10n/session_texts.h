@@ -12,6 +12,7 @@ enum class SessionText {
     ChannelsNotRead,       // heading of the list below
     ChannelWrongLength,    // %1 channel, %2 bytes
     ChannelNotUnderstood,  // %1 channel
+    TraceMenuItem,         // the Setup menu item that writes the serial traffic to a file
 };
 
 QString sessionText(SessionText id, UiLanguage language);

@@ -53,4 +53,7 @@ inline constexpr const char* kBootOutputLabel = "设置读取的目标文件的�
 inline constexpr const char* kBootOpen = "open";
 inline constexpr const char* kBinaryFilter = "*.bin (*.bin)";
 
+// The serial trace file.
+inline constexpr const char* kTraceFilter = "*.log (*.log)";
+
 }  // namespace l10n::fixed

@@ -112,6 +112,36 @@ MainWindow::~MainWindow() {
     delete gridModel_;
     // So does the boot loader window, which cancels its operation on the transport.
     delete bootLoaderWindow_;
+    transport_.setTrace(nullptr);
+}
+
+void MainWindow::traceToFile(bool on) {
+    transport_.setTrace(nullptr);
+    trace_.reset();
+    traceFile_.reset();
+    if (!on) return;
+    const QString path = prompts_.chooseSaveFile(QString::fromUtf8(l10n::fixed::kTraceFilter));
+    auto file = std::make_unique<QFile>(path);
+    if (path.isEmpty() ||
+        !file->open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Text)) {
+        if (!path.isEmpty()) {
+            prompts_.showMessage(
+                warningBox(l10n::describeError(
+                               Error::inFile(ErrorKind::CannotWrite, path, file->errorString()),
+                               doc_.language),
+                           doc_.language));
+        }
+        const QSignalBlocker quiet(traceAction_);
+        traceAction_->setChecked(false);
+        return;
+    }
+    traceFile_ = std::move(file);
+    trace_ = std::make_unique<LinkTrace>([file = traceFile_.get()](const QString& line) {
+        // Line by line: the trace of a session that ends badly is the one a report needs.
+        file->write(line.toUtf8() + '\n');
+        file->flush();
+    });
+    transport_.setTrace(trace_.get());
 }
 
 void MainWindow::openBootLoader() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QFile>
 #include <QMainWindow>
 #include <QPointer>
 #include <QTimer>
@@ -7,6 +8,7 @@
 #include <memory>
 #include <optional>
 
+#include "link/link_trace.h"
 #include "link/link_transport.h"
 #include "link/port_control.h"
 #include "link/radio_session.h"
@@ -119,6 +121,8 @@ private:
     // Sessions and closing (main_window_session.cpp).
     void startRead();
     void openBootLoader();
+    // Starts or stops writing the serial traffic to a file the user chooses.
+    void traceToFile(bool on);
     void startWrite();
     void startSession(std::unique_ptr<RadioSession> session);
     void sessionFinished();
@@ -185,6 +189,9 @@ private:
     QAction* audioTestAction_ = nullptr;
     QAction* testModeAction_ = nullptr;
     QAction* identityAction_ = nullptr;
+    QAction* traceAction_ = nullptr;  // "Trace to file…"
+    std::unique_ptr<QFile> traceFile_;
+    std::unique_ptr<LinkTrace> trace_;
     QAction* chineseAction_ = nullptr;
     QAction* englishAction_ = nullptr;
     std::array<QAction*, PortControl::kComxItem + 1> portActions_{};  // [1..16] comN, [17] comx

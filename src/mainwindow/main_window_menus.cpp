@@ -14,7 +14,9 @@ QAction* addNamedAction(QMenu* menu, const char* objectName) {
     return action;
 }
 
-QString fixedText(const char* text) { return QString::fromUtf8(text); }
+QString fixedText(const char* text) {
+    return QString::fromUtf8(text);
+}
 
 }  // namespace
 
@@ -65,6 +67,10 @@ void MainWindow::buildMenus() {
     QAction* model = modelMenu_->addAction(fixedText(l10n::fixed::kModelItem));
     model->setCheckable(true);
     model->setChecked(true);
+    setupMenu_->addSeparator();
+    traceAction_ = addNamedAction(setupMenu_, "TraceToFile");
+    traceAction_->setCheckable(true);
+    connect(traceAction_, &QAction::toggled, this, &MainWindow::traceToFile);
     setupMenu_->addSeparator();
 
     programMenu_ = menuBar()->addMenu(QString());

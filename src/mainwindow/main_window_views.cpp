@@ -6,6 +6,7 @@
 #include <QPushButton>
 
 #include "l10n/error_texts.h"
+#include "l10n/session_texts.h"
 #include "l10n/window_texts.h"
 #include "mainwindow/channel_grid_model.h"
 #include "mainwindow/channel_grid_view.h"
@@ -65,6 +66,7 @@ void MainWindow::applyCaptions() {
     rateMenu_->setTitle(caption(kMenuRate));
     otherAction_->setText(caption(kMenuOther));
     modelMenu_->setTitle(caption(kMenuModel));
+    traceAction_->setText(l10n::sessionText(l10n::SessionText::TraceMenuItem, language));
     programMenu_->setTitle(caption(kMenuProgram));
     readAction_->setText(caption(kMenuRead));
     writeAction_->setText(caption(kMenuWrite));

@@ -1,4 +1,5 @@
 #include <QAction>
+#include <QFile>
 #include <QLineEdit>
 #include <QProgressBar>
 #include <QPushButton>
@@ -57,6 +58,30 @@ TEST(Sessions, AWriteSendsThePlanAndAReadFillsTheGrid) {
     EXPECT_TRUE(buttonsEnabled(f));
     EXPECT_FALSE(f.find<ProgressWindow>("Form5")->isVisible());
     EXPECT_TRUE(f.prompts.statuses.contains("Read OK"));
+}
+
+TEST(Sessions, TraceToFileKeepsEveryFrameOfARead) {
+    WindowFixture f;
+    f.prompts.savePath = f.dir.filePath("trace.log");
+    auto* trace = f.window->findChild<QAction*>("TraceToFile");
+    ASSERT_NE(trace, nullptr);
+    trace->trigger();
+    ASSERT_TRUE(trace->isChecked());
+    QTest::mouseClick(f.find<QPushButton>("Command2"), Qt::LeftButton);
+    ASSERT_TRUE(f.waitFor([&] { return !f.window->sessionRunning(); }));
+    trace->trigger();  // stops tracing and closes the file
+    EXPECT_FALSE(trace->isChecked());
+    QFile file(f.prompts.savePath);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const QStringList lines = QString::fromUtf8(file.readAll()).split('\n', Qt::SkipEmptyParts);
+    ASSERT_EQ(lines.size(), 52);  // 26 requests, 26 replies
+    EXPECT_TRUE(lines.first().endsWith("> 53 03 00 00 04 5a  S settings"))
+        << lines.first().toStdString();
+    EXPECT_TRUE(lines.last().endsWith("checksum ok")) << lines.last().toStdString();
+
+    f.prompts.savePath.clear();  // a cancelled file choice leaves the item unchecked
+    trace->trigger();
+    EXPECT_FALSE(trace->isChecked());
 }
 
 TEST(Sessions, ClosingTheProgressWindowCancelsARead) {
