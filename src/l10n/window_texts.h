@@ -53,4 +53,12 @@ inline constexpr const char* kBootOutputLabel = "设置读取的目标文件的�
 inline constexpr const char* kBootOpen = "open";
 inline constexpr const char* kBinaryFilter = "*.bin (*.bin)";
 
+// The engineering windows share their read and write buttons.
+inline constexpr const char* kServiceRead = "读";
+inline constexpr const char* kServiceWrite = "写";
+
+// The crystal-correction window.
+inline constexpr const char* kCrystalWindowTitle = "RF 晶体修正";
+inline constexpr const char* kCrystalLabel = "晶体修正值";
+
 }  // namespace l10n::fixed

@@ -13,6 +13,7 @@
 
 #include "bootloader/ui/boot_loader_window.h"
 #include "l10n/window_texts.h"
+#include "service/ui/crystal_window.h"
 #include "mainwindow/channel_grid_model.h"
 #include "mainwindow/channel_grid_view.h"
 #include "mainwindow/document_history.h"
@@ -104,6 +105,8 @@ MainWindow::~MainWindow() {
     delete gridModel_;
     // So does the boot loader window, which cancels its operation on the transport.
     delete bootLoaderWindow_;
+    // And the engineering windows, whose panels give up their requests on the channel.
+    delete crystalWindow_;
 }
 
 void MainWindow::openBootLoader() {
@@ -114,6 +117,24 @@ void MainWindow::openBootLoader() {
     bootLoaderWindow_->show();
     bootLoaderWindow_->raise();
     bootLoaderWindow_->activateWindow();
+}
+
+namespace {
+
+// One engineering window, modeless, made on first use and raised afterwards.
+template <typename Window, typename... Args>
+void showOnce(QPointer<Window>& window, QWidget* parent, Args&... args) {
+    if (!window) window = new Window(args..., parent);
+    window->show();
+    window->raise();
+    window->activateWindow();
+}
+
+}  // namespace
+
+void MainWindow::openCrystalWindow() {
+    serviceChannel_.setLanguage(doc_.language);
+    showOnce(crystalWindow_, this, serviceChannel_);
 }
 
 void MainWindow::startUp(const std::optional<int>& portToSelect) {

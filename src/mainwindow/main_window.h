@@ -14,6 +14,7 @@
 #include "mainwindow/window_prompts.h"
 #include "model/codeplug.h"
 #include "model/editing.h"
+#include "service/service_channel.h"
 
 class QAction;
 class QActionGroup;
@@ -23,6 +24,7 @@ class QLabel;
 class QMenu;
 class QPushButton;
 class BootLoaderWindow;
+class CrystalWindow;
 class ChannelGridModel;
 class DocumentHistory;
 class ChannelGridView;
@@ -118,6 +120,7 @@ private:
     // Sessions and closing (main_window_session.cpp).
     void startRead();
     void openBootLoader();
+    void openCrystalWindow();
     void startWrite();
     void startSession(std::unique_ptr<RadioSession> session);
     void sessionFinished();
@@ -133,6 +136,7 @@ private:
     WidgetSessionView sessionView_{*this};
     PortControl portControl_;
     LinkTransport transport_;
+    ServiceChannel serviceChannel_{transport_, prompts_};  // shared by the engineering windows
     std::unique_ptr<RadioSession> session_;
     std::unique_ptr<RadioSession> finishedSession_;
     std::optional<StatusText> status_;  // the message shown, with only its suffix as text
@@ -147,6 +151,7 @@ private:
     QPointer<SplashScreen> splash_;
     QPointer<PortPickerDialog> portPicker_;
     QPointer<BootLoaderWindow> bootLoaderWindow_;
+    QPointer<CrystalWindow> crystalWindow_;
 
     // Widgets that change caption with the language, by role.
     std::array<QComboBox*, kSettingCount> settingBoxes_{};

@@ -125,5 +125,21 @@ int main(int argc, char** argv) {
     window.resize(900, 560);
     settle();
     save(QStringLiteral("7-resized-small"), window.frameGeometry());
+
+    // The engineering windows, each after a read from the simulated radio.
+    window.findChild<QAction*>(QStringLiteral("crs"))->trigger();
+    QWidget* crystal = nullptr;
+    for (QWidget* top : QApplication::topLevelWidgets()) {
+        if (top->objectName() == QLatin1String("Form14") && top->isVisible()) crystal = top;
+    }
+    check(crystal != nullptr, "crystal window open");
+    if (crystal) {
+        crystal->move(40, 40);
+        auto* read = crystal->findChild<QPushButton*>(QStringLiteral("Command1"));
+        read->click();
+        check(QTest::qWaitFor([&] { return read->isEnabled(); }, 5000), "crystal read");
+        settle();
+        save(QStringLiteral("8-crystal"), crystal->frameGeometry());
+    }
     return failures == 0 ? 0 : 1;
 }
