@@ -14,6 +14,7 @@
 #include "bootloader/ui/boot_loader_window.h"
 #include "l10n/window_texts.h"
 #include "service/ui/crystal_window.h"
+#include "service/ui/register_window.h"
 #include "mainwindow/channel_grid_model.h"
 #include "mainwindow/channel_grid_view.h"
 #include "mainwindow/document_history.h"
@@ -107,6 +108,7 @@ MainWindow::~MainWindow() {
     delete bootLoaderWindow_;
     // And the engineering windows, whose panels give up their requests on the channel.
     delete crystalWindow_;
+    delete registerWindow_;
 }
 
 void MainWindow::openBootLoader() {
@@ -135,6 +137,11 @@ void showOnce(QPointer<Window>& window, QWidget* parent, Args&... args) {
 void MainWindow::openCrystalWindow() {
     serviceChannel_.setLanguage(doc_.language);
     showOnce(crystalWindow_, this, serviceChannel_);
+}
+
+void MainWindow::openRegisterWindow() {
+    serviceChannel_.setLanguage(doc_.language);
+    showOnce(registerWindow_, this, serviceChannel_, prompts_);
 }
 
 void MainWindow::startUp(const std::optional<int>& portToSelect) {

@@ -25,6 +25,7 @@ class QMenu;
 class QPushButton;
 class BootLoaderWindow;
 class CrystalWindow;
+class RegisterWindow;
 class ChannelGridModel;
 class DocumentHistory;
 class ChannelGridView;
@@ -121,6 +122,7 @@ private:
     void startRead();
     void openBootLoader();
     void openCrystalWindow();
+    void openRegisterWindow();
     void startWrite();
     void startSession(std::unique_ptr<RadioSession> session);
     void sessionFinished();
@@ -152,6 +154,7 @@ private:
     QPointer<PortPickerDialog> portPicker_;
     QPointer<BootLoaderWindow> bootLoaderWindow_;
     QPointer<CrystalWindow> crystalWindow_;
+    QPointer<RegisterWindow> registerWindow_;
 
     // Widgets that change caption with the language, by role.
     std::array<QComboBox*, kSettingCount> settingBoxes_{};

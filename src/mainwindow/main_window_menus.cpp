@@ -91,6 +91,8 @@ void MainWindow::buildMenus() {
         item->setText(fixedText(caption));
         if (QLatin1String(name) == QLatin1String("crs")) {
             connect(item, &QAction::triggered, this, &MainWindow::openCrystalWindow);
+        } else if (QLatin1String(name) == QLatin1String("RFReg_Test")) {
+            connect(item, &QAction::triggered, this, &MainWindow::openRegisterWindow);
         } else {
             item->setEnabled(false);
         }

@@ -127,19 +127,28 @@ int main(int argc, char** argv) {
     save(QStringLiteral("7-resized-small"), window.frameGeometry());
 
     // The engineering windows, each after a read from the simulated radio.
-    window.findChild<QAction*>(QStringLiteral("crs"))->trigger();
-    QWidget* crystal = nullptr;
-    for (QWidget* top : QApplication::topLevelWidgets()) {
-        if (top->objectName() == QLatin1String("Form14") && top->isVisible()) crystal = top;
-    }
-    check(crystal != nullptr, "crystal window open");
-    if (crystal) {
-        crystal->move(40, 40);
-        auto* read = crystal->findChild<QPushButton*>(QStringLiteral("Command1"));
+    struct Engineering {
+        const char* item;
+        const char* form;
+        const char* readButton;
+        const char* shot;
+    };
+    for (const Engineering& e : {Engineering{"crs", "Form14", "Command1", "8-crystal"},
+                                 Engineering{"RFReg_Test", "Form9", "Command2", "9-registers"}}) {
+        window.findChild<QAction*>(QString::fromLatin1(e.item))->trigger();
+        QWidget* shown = nullptr;
+        for (QWidget* top : QApplication::topLevelWidgets()) {
+            if (top->objectName() == QLatin1String(e.form) && top->isVisible()) shown = top;
+        }
+        check(shown != nullptr, e.form);
+        if (!shown) continue;
+        shown->move(40, 40);
+        auto* read = shown->findChild<QPushButton*>(QString::fromLatin1(e.readButton));
         read->click();
-        check(QTest::qWaitFor([&] { return read->isEnabled(); }, 5000), "crystal read");
+        check(QTest::qWaitFor([&] { return read->isEnabled(); }, 15000), e.shot);
         settle();
-        save(QStringLiteral("8-crystal"), crystal->frameGeometry());
+        save(QString::fromLatin1(e.shot), shown->frameGeometry());
+        shown->hide();
     }
     return failures == 0 ? 0 : 1;
 }

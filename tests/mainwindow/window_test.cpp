@@ -152,14 +152,14 @@ TEST(Ports, TheListMenuAndPickerFollowThePortControl) {
 
 TEST(EngineeringWindows, EachMenuItemOpensOneModelessInstance) {
     WindowFixture f(startupDocument(UiLanguage::Chinese));
-    for (const char* item : {"crs"}) {
+    for (const char* item : {"crs", "RFReg_Test"}) {
         SCOPED_TRACE(item);
         QAction* action = f.find<QAction>(item);
         ASSERT_TRUE(action->isEnabled());
         action->trigger();
         action->trigger();
     }
-    for (const char* form : {"Form14"}) {
+    for (const char* form : {"Form14", "Form9"}) {
         SCOPED_TRACE(form);
         const QList<QWidget*> windows = f.window->findChildren<QWidget*>(QString::fromLatin1(form));
         ASSERT_EQ(windows.size(), 1);
