@@ -13,13 +13,13 @@
 
 #include "bootloader/ui/boot_loader_window.h"
 #include "l10n/window_texts.h"
-#include "service/ui/crystal_window.h"
-#include "service/ui/register_window.h"
 #include "mainwindow/channel_grid_model.h"
 #include "mainwindow/channel_grid_view.h"
 #include "mainwindow/document_history.h"
 #include "mainwindow/progress_window.h"
 #include "mainwindow/splash_screen.h"
+#include "service/ui/crystal_window.h"
+#include "service/ui/register_window.h"
 
 namespace {
 

@@ -98,7 +98,8 @@ TEST_F(RegisterWindowTest, TheCellEditorTakesOnlyHexadecimalUpToTheColumnWidth) 
         QTest::keyClicks(editor, QString::fromLatin1(c.typed));
         EXPECT_EQ(editor->text(), QString::fromLatin1(c.kept));
         QTest::keyClick(editor, Qt::Key_Return);
-        EXPECT_TRUE(QTest::qWaitFor([&] { return cell(1, c.column) == QLatin1String(c.kept); }, 2000))
+        EXPECT_TRUE(
+            QTest::qWaitFor([&] { return cell(1, c.column) == QLatin1String(c.kept); }, 2000))
             << cell(1, c.column).toStdString();
     }
 }

@@ -47,8 +47,9 @@ protected:
                                10'000);
     }
     QString lastBox() const {
-        return prompts.boxes.isEmpty() ? QString()
-                                       : prompts.boxes.last().text + " | " + prompts.boxes.last().title;
+        return prompts.boxes.isEmpty()
+                   ? QString()
+                   : prompts.boxes.last().text + " | " + prompts.boxes.last().title;
     }
 
     SteadyClock clock;

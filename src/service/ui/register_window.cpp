@@ -24,7 +24,8 @@ namespace {
 // Text1, the cell editor: typed characters pass the register key filter of its column.
 class RegisterKeyFilter : public QObject {
 public:
-    RegisterKeyFilter(QLineEdit* editor, int column) : QObject(editor), editor_(editor), column_(column) {}
+    RegisterKeyFilter(QLineEdit* editor, int column)
+        : QObject(editor), editor_(editor), column_(column) {}
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override {
@@ -33,7 +34,8 @@ protected:
         const QString typed = key->text();
         if (typed.size() != 1 || !typed[0].isPrint()) return false;  // editing and moving keys
         QString text = editor_->text();
-        if (editor_->hasSelectedText()) text.remove(editor_->selectionStart(), editor_->selectedText().size());
+        if (editor_->hasSelectedText())
+            text.remove(editor_->selectionStart(), editor_->selectedText().size());
         return !registerKeyAccepted(column_, text, typed[0]);
     }
 
@@ -92,9 +94,12 @@ RegisterWindow::RegisterWindow(ServiceChannel& channel, WindowPrompts& prompts, 
         const char* caption;
     };
     const Button buttons[] = {
-        {"Command1", l10n::fixed::kRegisterClear},    {"Command2", l10n::fixed::kRegisterReadEeprom},
-        {"Command3", l10n::fixed::kRegisterSaveEeprom}, {"Command4", l10n::fixed::kRegisterReadRfic},
-        {"Command5", l10n::fixed::kRegisterWriteRfic}, {"Command6", l10n::fixed::kPanelLoadFile},
+        {"Command1", l10n::fixed::kRegisterClear},
+        {"Command2", l10n::fixed::kRegisterReadEeprom},
+        {"Command3", l10n::fixed::kRegisterSaveEeprom},
+        {"Command4", l10n::fixed::kRegisterReadRfic},
+        {"Command5", l10n::fixed::kRegisterWriteRfic},
+        {"Command6", l10n::fixed::kPanelLoadFile},
         {"Command7", l10n::fixed::kPanelSaveFile},
     };
     auto* column = new QVBoxLayout;
