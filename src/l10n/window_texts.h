@@ -56,4 +56,29 @@ inline constexpr const char* kBinaryFilter = "*.bin (*.bin)";
 // The serial trace file.
 inline constexpr const char* kTraceFilter = "*.log (*.log)";
 
+// The engineering windows share their read and write buttons.
+inline constexpr const char* kServiceRead = "读";
+inline constexpr const char* kServiceWrite = "写";
+
+// The register-table and band windows' text files.
+inline constexpr const char* kTextFilter = "TXT (*.txt)";
+inline constexpr const char* kPanelLoadFile = "调入文件";
+inline constexpr const char* kPanelSaveFile = "保存文件";
+
+// The register-table window.
+inline constexpr const char* kRegisterWindowTitle = "RegTest";
+inline constexpr const char* kRegisterFrame = "RF-Reg";
+inline constexpr const char* kRegisterRowHeader = "xh";
+inline constexpr const char* kRegisterAddressHeader = "Reg addr(hex)";
+inline constexpr const char* kRegisterDataHeader = "Reg data(hex)";
+inline constexpr const char* kRegisterClear = "CLEAR";
+inline constexpr const char* kRegisterReadEeprom = "Read EEP";
+inline constexpr const char* kRegisterSaveEeprom = "Save To EEP";
+inline constexpr const char* kRegisterReadRfic = "Read RFIC";
+inline constexpr const char* kRegisterWriteRfic = "Write RFIC";
+
+// The crystal-correction window.
+inline constexpr const char* kCrystalWindowTitle = "RF 晶体修正";
+inline constexpr const char* kCrystalLabel = "晶体修正值";
+
 }  // namespace l10n::fixed

@@ -19,6 +19,8 @@
 #include "mainwindow/document_history.h"
 #include "mainwindow/progress_window.h"
 #include "mainwindow/splash_screen.h"
+#include "service/ui/crystal_window.h"
+#include "service/ui/register_window.h"
 
 namespace {
 
@@ -112,6 +114,9 @@ MainWindow::~MainWindow() {
     delete gridModel_;
     // So does the boot loader window, which cancels its operation on the transport.
     delete bootLoaderWindow_;
+    // And the engineering windows, whose panels give up their requests on the channel.
+    delete crystalWindow_;
+    delete registerWindow_;
     transport_.setTrace(nullptr);
 }
 
@@ -152,6 +157,29 @@ void MainWindow::openBootLoader() {
     bootLoaderWindow_->show();
     bootLoaderWindow_->raise();
     bootLoaderWindow_->activateWindow();
+}
+
+namespace {
+
+// One engineering window, modeless, made on first use and raised afterwards.
+template <typename Window, typename... Args>
+void showOnce(QPointer<Window>& window, QWidget* parent, Args&... args) {
+    if (!window) window = new Window(args..., parent);
+    window->show();
+    window->raise();
+    window->activateWindow();
+}
+
+}  // namespace
+
+void MainWindow::openCrystalWindow() {
+    serviceChannel_.setLanguage(doc_.language);
+    showOnce(crystalWindow_, this, serviceChannel_);
+}
+
+void MainWindow::openRegisterWindow() {
+    serviceChannel_.setLanguage(doc_.language);
+    showOnce(registerWindow_, this, serviceChannel_, prompts_);
 }
 
 void MainWindow::startUp(const std::optional<int>& portToSelect) {

@@ -16,6 +16,7 @@
 #include "mainwindow/window_prompts.h"
 #include "model/codeplug.h"
 #include "model/editing.h"
+#include "service/service_channel.h"
 
 class QAction;
 class QActionGroup;
@@ -25,6 +26,8 @@ class QLabel;
 class QMenu;
 class QPushButton;
 class BootLoaderWindow;
+class CrystalWindow;
+class RegisterWindow;
 class ChannelGridModel;
 class DocumentHistory;
 class ChannelGridView;
@@ -123,6 +126,8 @@ private:
     void openBootLoader();
     // Starts or stops writing the serial traffic to a file the user chooses.
     void traceToFile(bool on);
+    void openCrystalWindow();
+    void openRegisterWindow();
     void startWrite();
     void startSession(std::unique_ptr<RadioSession> session);
     void sessionFinished();
@@ -138,6 +143,7 @@ private:
     WidgetSessionView sessionView_{*this};
     PortControl portControl_;
     LinkTransport transport_;
+    ServiceChannel serviceChannel_{transport_, prompts_};  // shared by the engineering windows
     std::unique_ptr<RadioSession> session_;
     std::unique_ptr<RadioSession> finishedSession_;
     std::optional<StatusText> status_;  // the message shown, with only its suffix as text
@@ -152,6 +158,8 @@ private:
     QPointer<SplashScreen> splash_;
     QPointer<PortPickerDialog> portPicker_;
     QPointer<BootLoaderWindow> bootLoaderWindow_;
+    QPointer<CrystalWindow> crystalWindow_;
+    QPointer<RegisterWindow> registerWindow_;
 
     // Widgets that change caption with the language, by role.
     std::array<QComboBox*, kSettingCount> settingBoxes_{};

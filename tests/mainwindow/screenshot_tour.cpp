@@ -36,7 +36,9 @@ struct NotingPrompts : WindowPrompts {
 QString outDir;
 int failures = 0;
 
-void settle(int ms = 300) { QTest::qWait(ms); }
+void settle(int ms = 300) {
+    QTest::qWait(ms);
+}
 
 // The screen around `area` (popups and the progress window are windows of their own).
 void save(const QString& name, const QRect& area) {
@@ -133,13 +135,39 @@ int main(int argc, char** argv) {
     if (boot) {
         boot->move(40, 40);
         boot->findChild<QPushButton*>(QStringLiteral("Command5"))->click();
-        check(QTest::qWaitFor([&] {
-                  return boot->findChild<QPushButton*>(QStringLiteral("Command5"))->isEnabled();
-              }, 15000),
+        check(QTest::qWaitFor(
+                  [&] {
+                      return boot->findChild<QPushButton*>(QStringLiteral("Command5"))->isEnabled();
+                  },
+                  15000),
               "erase finished");
         settle();
-        save(QStringLiteral("8-boot-loader"), boot->frameGeometry());
+        save(QStringLiteral("10-boot-loader"), boot->frameGeometry());
         boot->close();
+    }
+    // The engineering windows, each after a read from the simulated radio.
+    struct Engineering {
+        const char* item;
+        const char* form;
+        const char* readButton;
+        const char* shot;
+    };
+    for (const Engineering& e : {Engineering{"crs", "Form14", "Command1", "8-crystal"},
+                                 Engineering{"RFReg_Test", "Form9", "Command2", "9-registers"}}) {
+        window.findChild<QAction*>(QString::fromLatin1(e.item))->trigger();
+        QWidget* shown = nullptr;
+        for (QWidget* top : QApplication::topLevelWidgets()) {
+            if (top->objectName() == QLatin1String(e.form) && top->isVisible()) shown = top;
+        }
+        check(shown != nullptr, e.form);
+        if (!shown) continue;
+        shown->move(40, 40);
+        auto* read = shown->findChild<QPushButton*>(QString::fromLatin1(e.readButton));
+        read->click();
+        check(QTest::qWaitFor([&] { return read->isEnabled(); }, 15000), e.shot);
+        settle();
+        save(QString::fromLatin1(e.shot), shown->frameGeometry());
+        shown->hide();
     }
     return failures == 0 ? 0 : 1;
 }

@@ -159,3 +159,22 @@ TEST(Ports, TheListMenuAndPickerFollowThePortControl) {
 }
 
 }  // namespace
+
+TEST(EngineeringWindows, EachMenuItemOpensOneModelessInstance) {
+    WindowFixture f(startupDocument(UiLanguage::Chinese));
+    for (const char* item : {"crs", "RFReg_Test"}) {
+        SCOPED_TRACE(item);
+        QAction* action = f.find<QAction>(item);
+        ASSERT_TRUE(action->isEnabled());
+        action->trigger();
+        action->trigger();
+    }
+    for (const char* form : {"Form14", "Form9"}) {
+        SCOPED_TRACE(form);
+        const QList<QWidget*> windows = f.window->findChildren<QWidget*>(QString::fromLatin1(form));
+        ASSERT_EQ(windows.size(), 1);
+        EXPECT_TRUE(windows[0]->isVisible());
+        EXPECT_TRUE(windows[0]->isWindow());
+        EXPECT_EQ(windows[0]->windowModality(), Qt::NonModal);
+    }
+}

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QWidget>
+
+#include "service/crystal_panel.h"
+
+class QLineEdit;
+class QPushButton;
+class QScrollBar;
+
+// "RF 晶体修正": the crystal trim on a slider with its text box, read and written by the
+// CrystalPanel; the buttons rest while its exchange runs.
+class CrystalWindow : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit CrystalWindow(ServiceChannel& channel, QWidget* parent = nullptr);
+    ~CrystalWindow() override;
+
+    bool isBusy() const { return panel_.isRunning(); }
+
+private:
+    void showValue(const QString& text);
+    void textEdited(const QString& text);
+
+    CrystalPanel panel_;
+    QScrollBar* slider_;        // HScroll1
+    QLineEdit* valueEdit_;      // Text1
+    QPushButton* readButton_;   // Command1
+    QPushButton* writeButton_;  // Command2
+};
