@@ -38,11 +38,7 @@ bool RadioLine::traceTo(const std::string& path) {
                      qPrintable(traceFile_->errorString()));
         return false;
     }
-    trace_ = std::make_unique<LinkTrace>([file = traceFile_.get()](const QString& line) {
-        // Flushed line by line: the trace of a session that crashes is the one that matters.
-        file->write(line.toUtf8() + '\n');
-        file->flush();
-    });
+    trace_ = std::make_unique<LinkTrace>(LinkTrace::fileSink(traceFile_.get()));
     transport->setTrace(trace_.get());
     return true;
 }

@@ -113,11 +113,7 @@ void BootSession::replyReceived(const QByteArray& payload) {
             }
             blocks_ = boot::paddedImage(job_.image, job_.start, job_.end);
             length_ = static_cast<int>(job_.image.size());
-            offset_ = blockCount_ = 0;
-            progressCounter_ = progress_ = 0;
-            address_ = job_.start;
-            step_ = Step::Writing;
-            sendBlock();
+            beginBlocks(Step::Writing);
             return;
         case Step::Writing:
             blockDone();
@@ -125,8 +121,7 @@ void BootSession::replyReceived(const QByteArray& payload) {
             if (offset_ >= blocks_.size()) {
                 Q_EMIT progressChanged(100);
                 step_ = Step::EndingWrite;
-                transport_.request(boot::request(boot::kEndWrite, blockCount_), boot::kBlockReplyMs,
-                                   1, ReplyLengths::any(), kImmediate);
+                ask(boot::request(boot::kEndWrite, blockCount_), boot::kBlockReplyMs);
                 return;
             }
             sendBlock();
@@ -143,11 +138,7 @@ void BootSession::replyReceived(const QByteArray& payload) {
             return;
         case Step::StartingRead:
             data_.clear();
-            offset_ = blockCount_ = 0;
-            progressCounter_ = progress_ = 0;
-            address_ = job_.start;
-            step_ = Step::Reading;
-            sendBlock();
+            beginBlocks(Step::Reading);
             return;
         case Step::Reading:
             data_.append(payload.left(length_ - offset_));
@@ -159,8 +150,7 @@ void BootSession::replyReceived(const QByteArray& payload) {
             }
             Q_EMIT progressChanged(100);
             step_ = Step::EndingRead;
-            transport_.request(boot::request(boot::kEndRead, blockCount_), boot::kBlockReplyMs, 1,
-                               ReplyLengths::any(), kImmediate);
+            ask(boot::request(boot::kEndRead, blockCount_), boot::kBlockReplyMs);
             return;
         case Step::EndingRead:
             finishRead();
@@ -177,8 +167,8 @@ void BootSession::afterLink() {
     }
     log(job_.operation == Operation::Erase ? BootText::EraseStart : BootText::WriteStart);
     step_ = Step::Erasing;
-    transport_.request(boot::request(boot::kErase, boot::eraseParameter(job_.start, job_.end)),
-                       boot::kEraseReplyMs, 1, ReplyLengths::any(), kImmediate);
+    ask(boot::request(boot::kErase, boot::eraseParameter(job_.start, job_.end)),
+        boot::kEraseReplyMs);
 }
 
 void BootSession::startReadBack() {
@@ -189,19 +179,24 @@ void BootSession::startReadBack() {
         length_ = static_cast<int>(blocks_.size());
     }
     step_ = Step::StartingRead;
-    transport_.request(boot::request(boot::kStartRead, 0), boot::kStartReadReplyMs, 1,
-                       ReplyLengths::any(), kImmediate);
+    ask(boot::request(boot::kStartRead, 0), boot::kStartReadReplyMs);
+}
+
+void BootSession::beginBlocks(Step step) {
+    offset_ = blockCount_ = 0;
+    progressCounter_ = progress_ = 0;
+    address_ = job_.start;
+    step_ = step;
+    sendBlock();
 }
 
 void BootSession::sendBlock() {
     if (step_ == Step::Writing) {
         const QByteArray block = blocks_.mid(offset_, boot::kBlockSize);
         offset_ += boot::kBlockSize;
-        transport_.request(boot::request(boot::kWriteBlock, address_, block), boot::kBlockReplyMs,
-                           1, ReplyLengths::any(), kImmediate);
+        ask(boot::request(boot::kWriteBlock, address_, block), boot::kBlockReplyMs);
     } else {
-        transport_.request(boot::request(boot::kReadBlock, address_), boot::kBlockReplyMs, 1,
-                           {boot::kBlockSize}, kImmediate);
+        ask(boot::request(boot::kReadBlock, address_), boot::kBlockReplyMs, {boot::kBlockSize});
     }
 }
 
@@ -241,6 +236,11 @@ void BootSession::finishRead() {
             .arg(crc(job_.image))
             .arg(crc(data_.left(job_.image.size()))));
     end(Outcome::Succeeded);
+}
+
+void BootSession::ask(const QByteArray& frame, int replyMs, ReplyLengths accepted) {
+    // Everything but the link request gets one attempt, sent the loader's way.
+    transport_.request(frame, replyMs, 1, accepted, kImmediate);
 }
 
 void BootSession::log(BootText id) {

@@ -76,6 +76,9 @@ private:
     // For a job that ends before anything is sent.
     bool refuse(l10n::BootText id);
     void afterLink();
+    // The first block of a write or read phase, from the start address.
+    void beginBlocks(Step step);
+    void ask(const QByteArray& frame, int replyMs, ReplyLengths accepted = ReplyLengths::any());
     void sendBlock();
     void blockDone();
     void startReadBack();

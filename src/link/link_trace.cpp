@@ -10,6 +10,13 @@ int byteAt(const QByteArray& bytes, int at) {
 
 }  // namespace
 
+LinkTrace::Sink LinkTrace::fileSink(QFileDevice* file) {
+    return [file](const QString& line) {
+        file->write(line.toUtf8() + '\n');
+        file->flush();
+    };
+}
+
 QString LinkTrace::line(qint64 ms, char direction, const QByteArray& bytes, const QString& note) {
     QString text = QStringLiteral("%1.%2 %3 %4")
                        .arg(ms / 1000)

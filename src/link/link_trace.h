@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QFileDevice>
 #include <QString>
 #include <functional>
 
@@ -15,6 +16,9 @@ public:
     using Sink = std::function<void(const QString& line)>;
 
     explicit LinkTrace(Sink sink) : sink_(std::move(sink)) {}
+    // Lines into an open file, flushed one by one: the trace of a session that ends badly is
+    // the one a report needs.
+    static Sink fileSink(QFileDevice* file);
 
     void sent(qint64 ms, const QByteArray& frame);
     void received(qint64 ms, const QByteArray& frame, bool checksumOk);

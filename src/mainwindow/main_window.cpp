@@ -141,11 +141,7 @@ void MainWindow::traceToFile(bool on) {
         return;
     }
     traceFile_ = std::move(file);
-    trace_ = std::make_unique<LinkTrace>([file = traceFile_.get()](const QString& line) {
-        // Line by line: the trace of a session that ends badly is the one a report needs.
-        file->write(line.toUtf8() + '\n');
-        file->flush();
-    });
+    trace_ = std::make_unique<LinkTrace>(LinkTrace::fileSink(traceFile_.get()));
     transport_.setTrace(trace_.get());
 }
 
