@@ -31,6 +31,7 @@ bool ServiceChannel::begin() {
 void ServiceChannel::end() {
     if (!running_) return;
     done_ = nullptr;
+    sent_ = nullptr;
     // Text lines are for one request only, and an operation may end before its reply.
     endLineMode();
     transport_.release(this);
@@ -60,6 +61,18 @@ bool ServiceChannel::Panel_Exchange(ExchangeKind kind, const std::function<QByte
     return true;
 }
 
+void ServiceChannel::send_uart(const QByteArray& frame, std::function<void()> sent) {
+    Q_ASSERT(running_);
+    sent_ = std::move(sent);
+    transport_.send_uart(frame);
+}
+
+void ServiceChannel::sendFinished() {
+    const std::function<void()> sent = std::move(sent_);
+    sent_ = nullptr;
+    if (sent) sent();
+}
+
 void ServiceChannel::init_send_str() {
     transport_.setLineMode(true);
 }
@@ -69,7 +82,9 @@ void ServiceChannel::endLineMode() {
 }
 
 void ServiceChannel::setMonitor(std::function<void(const QByteArray&)> handler) {
+    const bool wasActive = monitorActive();
     transport_.setMonitor(std::move(handler));
+    if (monitorActive() != wasActive) Q_EMIT monitorChanged(monitorActive());
 }
 
 bool ServiceChannel::monitorActive() const {
@@ -78,6 +93,7 @@ bool ServiceChannel::monitorActive() const {
 
 void ServiceChannel::abandon() {
     done_ = nullptr;
+    sent_ = nullptr;
     transport_.abort();
 }
 

@@ -63,6 +63,10 @@ public:
     bool Panel_Exchange(ExchangeKind kind, const std::function<QByteArray()>& build,
                         ReplyLengths accepted, Done done);
 
+    // send_uart: sends `frame` and awaits no reply; `sent` runs once it is on the line (or, with
+    // the port closed, once that has been reported). Only within an operation.
+    void send_uart(const QByteArray& frame, std::function<void()> sent);
+
     // init_send_str: the next reply is text lines ended by a carriage return.
     void init_send_str();
     void endLineMode();
@@ -79,6 +83,11 @@ public:
     void exchangeFailed(const LinkFailure& failure) override;
     void replyIgnored(int length) override { ignoredLength_ = length; }
     void portClosedOnSend() override;
+    void sendFinished() override;
+
+Q_SIGNALS:
+    // Monitor mode began or ended (whoever ended it).
+    void monitorChanged(bool active);
 
 private:
     void complete(const Reply& reply);
@@ -89,5 +98,6 @@ private:
     bool running_ = false;
     bool portClosedReported_ = false;
     Done done_;
+    std::function<void()> sent_;
     int ignoredLength_ = -1;  // of a reply to the request under way that did not fit it
 };

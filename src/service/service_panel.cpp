@@ -18,6 +18,9 @@ bool ServicePanel::begin() {
         outcome_ = ServiceOutcome::Refused;
         return false;
     }
+    // A monitor ends with every operation of any panel, whose replies it would otherwise take
+    // (the test panel's monitor start sets a new one afterwards).
+    channel_.setMonitor(nullptr);
     running_ = true;
     Q_EMIT runningChanged(true);
     return true;

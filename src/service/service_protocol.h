@@ -19,6 +19,10 @@ constexpr quint8 kBandWrite = 0x69;         // "i"  with a 22-byte payload: one 
 constexpr quint8 kBandDefaults = 0x6A;      // "j"  with a 3-byte payload
 constexpr quint8 kCrystalRead = 0x6D;       // "m"
 constexpr quint8 kCrystalWrite = 0x6E;      // "n"
+constexpr quint8 kMonitor = 0x55;           // "U"  payload: one mode byte
+constexpr quint8 kIdentityWrite = 0x5A;     // "Z"  payload: the four identity bytes
+constexpr quint8 kIdentityRead = 0x5B;      // "["
+constexpr quint8 kTestMode = 0x66;          // "f"  payload: 0, 0, test type, 0, 0
 
 // pack_pc_cmd's fifth byte, and the one the calibration read asks with.
 constexpr quint8 kPlainRequestTag = 0x05;
@@ -32,6 +36,10 @@ constexpr int kBandSegments = 4;
 constexpr int kBandPointsRead = 15;  // a read uses the first 15 bytes of a segment
 constexpr int kCrystalReplySize = 5;
 constexpr int kCrystalReplyByte = 4;
+constexpr int kIdentitySize = 4;
+// Monitor frames: byte 0 says which; an RSSI frame carries 7 bytes, a battery frame 4.
+constexpr int kRssiFrameSize = 7;
+constexpr int kBatteryFrameSize = 4;
 
 // The calibration record's bytes.
 constexpr int kCalPowerHigh = 0, kCalPowerLow = 1, kCalRssiNarrow = 2, kCalRssiWide = 3;
