@@ -1,7 +1,10 @@
 #include "sim/sim_radio.h"
 
+#include <algorithm>
+
 #include "link/frame.h"
 #include "link/protocol.h"
+#include "service/service_protocol.h"
 #include "sim/sim_memory.h"
 
 namespace {
@@ -9,6 +12,7 @@ namespace {
 using namespace protocol;
 
 constexpr int kNoiseIntervalMs = 10;
+const QString kMonitorNote = QStringLiteral("monitor");
 
 // No parser can take these: outside the reply command range, and a frame start whose length
 // is too large.
@@ -33,6 +37,10 @@ QByteArray asReported(QByteArray record) {
 SimRadio::SimRadio(Clock& clock)
     : clock_(clock),
       settings_(initialSettingsRecord()),
+      production_(clock,
+                  [this](const QByteArray& payload) {
+                      queue(LinkFrame{kRecordReply, payload}.encode(), kMonitorNote);
+                  }),
       replyTimer_(clock.createTimer()),
       noiseTimer_(clock.createTimer()) {
     for (int slot = 0; slot < kChannelCount; ++slot) {
@@ -114,6 +122,13 @@ void SimRadio::handleRequest(quint8 command, const QByteArray& payload) {
     }
     // A request the radio does not hear changes nothing.
     if (faults_.silentFor(request)) return;
+    if (command != service::kMonitor) production_.interrupt();
+    if (production_.monitorMode() == 0) {
+        // Measurements not yet on the line stay unsent once the monitor has ended.
+        pending_.erase(std::remove_if(pending_.begin(), pending_.end(),
+                                      [](const PendingReply& p) { return p.note == kMonitorNote; }),
+                       pending_.end());
+    }
 
     if (SimBootloader::handles(command)) {
         if (const auto answer = bootloader_.handle(command, payload, faults_)) {
@@ -182,7 +197,8 @@ void SimRadio::reply(quint8 command, const QByteArray& payload, int extraDelayMs
 }
 
 void SimRadio::answerService(quint8 command, const QByteArray& payload) {
-    const std::optional<SimService::Answer> answer = service_.answer(command, payload);
+    std::optional<SimService::Answer> answer = production_.answer(command, payload);
+    if (!answer) answer = service_.answer(command, payload);
     if (!answer) return;
     switch (answer->kind) {
         case SimService::Answer::Record:

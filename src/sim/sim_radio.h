@@ -10,6 +10,7 @@
 #include "platform/clock.h"
 #include "sim/sim_bootloader.h"
 #include "sim/sim_faults.h"
+#include "sim/sim_production.h"
 #include "sim/sim_service.h"
 
 // The radio side of the programming protocol: it keeps a settings record and 25 channel
@@ -58,6 +59,7 @@ public:
 
     SimBootloader& bootloader() { return bootloader_; }
     SimService& service() { return service_; }
+    SimProduction& production() { return production_; }
 
     int requestCount() const { return requestCount_; }
     bool programmingEnded() const { return programmingEnded_; }
@@ -84,6 +86,7 @@ private:
     QByteArray settings_;
     std::array<QByteArray, kChannelCount> channels_;
     SimService service_;
+    SimProduction production_;
 
     // The request under way.
     QByteArray request_;
