@@ -1,6 +1,7 @@
 #include <memory>
 
 #include "cli/commands.h"
+#include "cli/production_command.h"
 #include "cli/radio_command.h"
 #include "cli/service_actions.h"
 
@@ -103,4 +104,5 @@ void addServiceCommand(CLI::App& app, const GlobalOptions& global, CommandRunner
             });
         }
     }
+    addProductionPanels(service, global, run, request);
 }
