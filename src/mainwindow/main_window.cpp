@@ -20,7 +20,9 @@
 #include "mainwindow/progress_window.h"
 #include "mainwindow/splash_screen.h"
 #include "service/ui/crystal_window.h"
+#include "service/ui/identity_window.h"
 #include "service/ui/register_window.h"
+#include "service/ui/test_mode_window.h"
 
 namespace {
 
@@ -117,6 +119,8 @@ MainWindow::~MainWindow() {
     // And the engineering windows, whose panels give up their requests on the channel.
     delete crystalWindow_;
     delete registerWindow_;
+    delete identityWindow_;
+    delete testModeWindow_;
     transport_.setTrace(nullptr);
 }
 
@@ -176,6 +180,17 @@ void MainWindow::openCrystalWindow() {
 void MainWindow::openRegisterWindow() {
     serviceChannel_.setLanguage(doc_.language);
     showOnce(registerWindow_, this, serviceChannel_, prompts_);
+}
+
+void MainWindow::openIdentityWindow() {
+    serviceChannel_.setLanguage(doc_.language);
+    showOnce(identityWindow_, this, serviceChannel_);
+    identityWindow_->retranslate();
+}
+
+void MainWindow::openTestModeWindow() {
+    serviceChannel_.setLanguage(doc_.language);
+    showOnce(testModeWindow_, this, serviceChannel_);
 }
 
 void MainWindow::startUp(const std::optional<int>& portToSelect) {

@@ -27,6 +27,8 @@ class QMenu;
 class QPushButton;
 class BootLoaderWindow;
 class CrystalWindow;
+class IdentityWindow;
+class TestModeWindow;
 class RegisterWindow;
 class ChannelGridModel;
 class DocumentHistory;
@@ -128,6 +130,8 @@ private:
     void traceToFile(bool on);
     void openCrystalWindow();
     void openRegisterWindow();
+    void openIdentityWindow();
+    void openTestModeWindow();
     void startWrite();
     void startSession(std::unique_ptr<RadioSession> session);
     void sessionFinished();
@@ -160,6 +164,8 @@ private:
     QPointer<BootLoaderWindow> bootLoaderWindow_;
     QPointer<CrystalWindow> crystalWindow_;
     QPointer<RegisterWindow> registerWindow_;
+    QPointer<IdentityWindow> identityWindow_;
+    QPointer<TestModeWindow> testModeWindow_;
 
     // Widgets that change caption with the language, by role.
     std::array<QComboBox*, kSettingCount> settingBoxes_{};

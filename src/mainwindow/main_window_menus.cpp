@@ -88,6 +88,7 @@ void MainWindow::buildMenus() {
     audioTestAction_ = addNamedAction(programMenu_, "ypcs");
     programMenu_->addSeparator();
     testModeAction_ = addNamedAction(programMenu_, "csms");
+    connect(testModeAction_, &QAction::triggered, this, &MainWindow::openTestModeWindow);
     for (const auto& [name, caption] : {std::pair{"RFReg_Test", l10n::fixed::kRegisterTestItem},
                                         {"yjx", l10n::fixed::kHardwareItem},
                                         {"mp3", l10n::fixed::kMp3Item},
@@ -105,13 +106,12 @@ void MainWindow::buildMenus() {
     }
     programMenu_->addSeparator();
     identityAction_ = addNamedAction(programMenu_, "xid");
+    connect(identityAction_, &QAction::triggered, this, &MainWindow::openIdentityWindow);
     programMenu_->addSeparator();
     QAction* bootLoader = addNamedAction(programMenu_, "prg");
     bootLoader->setText(fixedText(l10n::fixed::kBootLoaderItem));
     connect(bootLoader, &QAction::triggered, this, &MainWindow::openBootLoader);
-    for (QAction* item : {engineeringAction_, audioTestAction_, testModeAction_, identityAction_}) {
-        item->setEnabled(false);
-    }
+    for (QAction* item : {engineeringAction_, audioTestAction_}) item->setEnabled(false);
 
     languageMenu_ = menuBar()->addMenu(QString());
     languageMenu_->setObjectName(QStringLiteral("lang"));
