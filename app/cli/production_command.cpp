@@ -20,6 +20,7 @@
 namespace {
 
 const char* const kHelp = R"(
+
 Production line:
   id read                 prints id=N
   id write N              writes N (0..4294967295) and prints next=N+1 (0 after the largest);

@@ -16,6 +16,7 @@
 #include "model/presets.h"
 #include "persistence/codeplug_file.h"
 #include "persistence/config_file.h"
+#include "service/ui/identity_window.h"
 
 namespace {
 
@@ -134,6 +135,10 @@ void MainWindow::switchLanguage(UiLanguage language) {
     WriteConfigFile(configPath_, QStringLiteral("Lang"), language);
     applyLanguage(doc_, language);
     portControl_.setLanguage(language);
+    if (identityWindow_) {
+        serviceChannel_.setLanguage(language);
+        identityWindow_->retranslate();
+    }
     applyCaptions();
     refreshDocumentViews();
     refreshPortViews();

@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QDir>
+#include <QLineEdit>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QScreen>
@@ -57,6 +58,53 @@ void check(bool ok, const char* what) {
     if (ok) return;
     std::fprintf(stderr, "tour: %s did not happen\n", what);
     ++failures;
+}
+
+QWidget* visibleWindow(const char* form) {
+    for (QWidget* top : QApplication::topLevelWidgets()) {
+        if (top->objectName() == QLatin1String(form) && top->isVisible()) return top;
+    }
+    return nullptr;
+}
+
+// The identity window after numbering two radios, and the test window while its monitors run.
+void productionWindows(MainWindow& window) {
+    window.findChild<QAction*>(QStringLiteral("xid"))->trigger();
+    if (QWidget* identity = visibleWindow("Form6")) {
+        identity->move(40, 40);
+        auto* write = identity->findChild<QPushButton*>(QStringLiteral("Command1"));
+        auto* counter = identity->findChild<QLineEdit*>(QStringLiteral("Text2"));
+        for (const char* count : {"1", "2"}) {
+            write->click();
+            check(QTest::qWaitFor([&] { return counter->text() == QLatin1String(count); }, 15000),
+                  "identity written");
+        }
+        settle();
+        save(QStringLiteral("11-identity"), identity->frameGeometry());
+        identity->hide();
+    } else {
+        check(false, "Form6");
+    }
+
+    window.findChild<QAction*>(QStringLiteral("csms"))->trigger();
+    QWidget* test = visibleWindow("Form4");
+    check(test != nullptr, "Form4");
+    if (!test) return;
+    test->move(40, 40);
+    auto* rssi = test->findChild<QLineEdit*>(QStringLiteral("Text1"));
+    test->findChild<QPushButton*>(QStringLiteral("Command1"))->click();
+    check(QTest::qWaitFor([&] { return rssi->text() != QLatin1String("0"); }, 15000),
+          "RSSI monitor live");
+    settle(1000);
+    save(QStringLiteral("12-test-mode-rssi"), test->frameGeometry());
+    auto* battery = test->findChild<QLineEdit*>(QStringLiteral("Text5"));
+    test->findChild<QPushButton*>(QStringLiteral("Command3"))->click();
+    check(QTest::qWaitFor([&] { return battery->text() != QLatin1String("0"); }, 15000),
+          "battery monitor live");
+    settle(600);
+    save(QStringLiteral("13-test-mode-battery"), test->frameGeometry());
+    test->close();  // tells the radio to stop
+    settle();
 }
 
 }  // namespace
@@ -169,5 +217,6 @@ int main(int argc, char** argv) {
         save(QString::fromLatin1(e.shot), shown->frameGeometry());
         shown->hide();
     }
+    productionWindows(window);
     return failures == 0 ? 0 : 1;
 }

@@ -3,15 +3,13 @@
 
 #include <gtest/gtest.h>
 
-#include "link/session_fixture.h"
+#include "panel_fixture.h"
 #include "service/crystal_panel.h"
 #include "service/identity.h"
 #include "service/identity_panel.h"
 #include "service/test_mode_panel.h"
 
 namespace {
-
-constexpr qint64 kLongEnough = 60'000;
 
 QString hex(const QByteArray& bytes) {
     return QString::fromLatin1(bytes.toHex(' '));
@@ -103,20 +101,9 @@ TEST(MonitorFrames, TheTestRequests) {
     for (const auto& c : cases) EXPECT_EQ(hex(c.frame), c.bytes);
 }
 
-class ProductionPanelsTest : public ::testing::Test, protected SessionFixture {
+class ProductionPanelsTest : public ServicePanelFixture {
 protected:
-    ProductionPanelsTest() { channel.setLanguage(UiLanguage::English); }
-
-    QStringList run(ServicePanel& panel, const std::function<bool()>& start) {
-        prompts.clear();
-        if (start()) clock.advanceUntil([&] { return !panel.isRunning(); }, kLongEnough);
-        EXPECT_FALSE(panel.isRunning());
-        EXPECT_FALSE(transport.isBusy());
-        return prompts.transcript();
-    }
-    SimProduction& sim() { return radio.production(); }
-
-    ServiceChannel channel{transport, prompts};
+    SimProduction& production() { return radio.production(); }
 };
 
 TEST_F(ProductionPanelsTest, WritingNumbersOneRadioAfterTheOther) {
@@ -125,7 +112,7 @@ TEST_F(ProductionPanelsTest, WritingNumbersOneRadioAfterTheOther) {
     const quint32 expected[] = {4294967293u, 4294967294u, 4294967295u, 0, 1};
     for (int radio = 0; radio < 5; ++radio) {
         EXPECT_EQ(run(panel, [&] { return panel.write(); }), QStringList());
-        EXPECT_EQ(sim().identity(), expected[radio]);
+        EXPECT_EQ(production().identity(), expected[radio]);
         EXPECT_EQ(panel.mark, IdentityPanel::Mark::Accepted);
     }
     EXPECT_EQ(panel.identity, "2");
@@ -164,7 +151,7 @@ TEST_F(ProductionPanelsTest, AWriteThatCannotBeDoneNumbersNothing) {
         EXPECT_EQ(panel.successes, 0);
         if (!c.portOpen) port.open(SimulatedPort::kDefaultDevice);
     }
-    EXPECT_EQ(sim().identity(), 0u);
+    EXPECT_EQ(production().identity(), 0u);
 }
 
 TEST_F(ProductionPanelsTest, TheMonitorStreamsUntilItIsStopped) {
@@ -192,7 +179,7 @@ TEST_F(ProductionPanelsTest, TheMonitorStreamsUntilItIsStopped) {
     const qsizetype shown = frames.size();
     clock.advance(2000);
     EXPECT_EQ(frames.size(), shown);
-    EXPECT_EQ(sim().monitorMode(), 0);
+    EXPECT_EQ(production().monitorMode(), 0);
     EXPECT_EQ(panel.monitor(), MonitorMode::Stop);
 }
 
@@ -246,7 +233,7 @@ TEST_F(ProductionPanelsTest, TheDtmfTestsStartAndStop) {
     };
     for (const auto& c : cases) {
         EXPECT_EQ(run(panel, c.press), QStringList{"box: 测试模式 写 OK!! | 测试模式选择"});
-        EXPECT_EQ(sim().dtmfTest(), c.running);
+        EXPECT_EQ(production().dtmfTest(), c.running);
         EXPECT_EQ(hex(requests.back().second), c.sent);
     }
     SimFaults faults;

@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "l10n/program_texts.h"
-#include "link/session_fixture.h"
+#include "panel_fixture.h"
 #include "service/band_panel.h"
 #include "service/calibration_panel.h"
 #include "service/crystal_panel.h"
@@ -13,29 +13,7 @@
 
 namespace {
 
-constexpr qint64 kLongEnough = 60'000;
-
-class ServicePanelsTest : public ::testing::Test, protected SessionFixture {
-protected:
-    ServicePanelsTest() { channel.setLanguage(UiLanguage::English); }
-
-    // Runs one operation to its end and returns what it showed; clears the record.
-    QStringList run(ServicePanel& panel, const std::function<bool()>& start) {
-        prompts.clear();
-        if (start()) clock.advanceUntil([&] { return !panel.isRunning(); }, kLongEnough);
-        EXPECT_FALSE(panel.isRunning());
-        EXPECT_FALSE(transport.isBusy());
-        return prompts.transcript();
-    }
-    void silence(QSet<int> requestNumbers) {
-        SimFaults faults;
-        faults.silent = requestNumbers;
-        radio.setFaults(faults);
-    }
-    SimService& sim() { return radio.service(); }
-
-    ServiceChannel channel{transport, prompts};
-};
+using ServicePanelsTest = ServicePanelFixture;
 
 TEST_F(ServicePanelsTest, RegistersWrittenIntoTheChipAreReadBack) {
     RegisterPanel panel(channel);

@@ -46,6 +46,9 @@ IdentityWindow::IdentityWindow(ServiceChannel& channel, QWidget* parent)
     successLabel_ = named(new QLabel, "Label2");
     writeButton_ = named(new QPushButton, "Command1");
     readButton_ = named(new QPushButton, "Command2");
+    // Enter presses the button that has the focus, as Space does.
+    writeButton_->setAutoDefault(true);
+    readButton_->setAutoDefault(true);
 
     frame_ = new QGroupBox;
     auto* grid = new QGridLayout(frame_);
