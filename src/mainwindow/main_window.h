@@ -26,6 +26,7 @@ class QLabel;
 class QMenu;
 class QPushButton;
 class BootLoaderWindow;
+class CalibrationWindow;
 class CrystalWindow;
 class RegisterWindow;
 class ChannelGridModel;
@@ -126,6 +127,7 @@ private:
     void openBootLoader();
     // Starts or stops writing the serial traffic to a file the user chooses.
     void traceToFile(bool on);
+    void openCalibrationWindow();
     void openCrystalWindow();
     void openRegisterWindow();
     void startWrite();
@@ -158,6 +160,7 @@ private:
     QPointer<SplashScreen> splash_;
     QPointer<PortPickerDialog> portPicker_;
     QPointer<BootLoaderWindow> bootLoaderWindow_;
+    QPointer<CalibrationWindow> calibrationWindow_;
     QPointer<CrystalWindow> crystalWindow_;
     QPointer<RegisterWindow> registerWindow_;
 

@@ -134,6 +134,7 @@ void MainWindow::switchLanguage(UiLanguage language) {
     WriteConfigFile(configPath_, QStringLiteral("Lang"), language);
     applyLanguage(doc_, language);
     portControl_.setLanguage(language);
+    serviceChannel_.setLanguage(language);  // the engineering window's captions follow
     applyCaptions();
     refreshDocumentViews();
     refreshPortViews();

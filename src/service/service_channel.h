@@ -41,7 +41,8 @@ public:
     ServiceChannel(LinkTransport& transport, Prompts& prompts, QObject* parent = nullptr);
     ~ServiceChannel() override;
 
-    void setLanguage(UiLanguage language) { language_ = language; }
+    // The windows' captions follow the language through languageChanged.
+    void setLanguage(UiLanguage language);
     UiLanguage language() const { return language_; }
     Prompts& prompts() { return prompts_; }
     bool portOpen() const;
@@ -79,6 +80,9 @@ public:
     void exchangeFailed(const LinkFailure& failure) override;
     void replyIgnored(int length) override { ignoredLength_ = length; }
     void portClosedOnSend() override;
+
+Q_SIGNALS:
+    void languageChanged(UiLanguage language);
 
 private:
     void complete(const Reply& reply);

@@ -153,7 +153,8 @@ int main(int argc, char** argv) {
         const char* shot;
     };
     for (const Engineering& e : {Engineering{"crs", "Form14", "Command1", "8-crystal"},
-                                 Engineering{"RFReg_Test", "Form9", "Command2", "9-registers"}}) {
+                                 Engineering{"RFReg_Test", "Form9", "Command2", "9-registers"},
+                                 Engineering{"gcms", "Form3", "Command1", "11-calibration"}}) {
         window.findChild<QAction*>(QString::fromLatin1(e.item))->trigger();
         QWidget* shown = nullptr;
         for (QWidget* top : QApplication::topLevelWidgets()) {
@@ -168,6 +169,24 @@ int main(int argc, char** argv) {
         settle();
         save(QString::fromLatin1(e.shot), shown->frameGeometry());
         shown->hide();
+    }
+    // The engineering window in Chinese, and the band window it opens after a read.
+    window.findChild<QAction*>(QStringLiteral("chn"))->trigger();
+    window.findChild<QAction*>(QStringLiteral("gcms"))->trigger();
+    if (auto* calibration = window.findChild<QWidget*>(QStringLiteral("Form3"))) {
+        settle();
+        save(QStringLiteral("12-calibration-chinese"), calibration->frameGeometry());
+        calibration->findChild<QPushButton*>(QStringLiteral("Command3"))->click();
+        auto* band = calibration->findChild<QWidget*>(QStringLiteral("Form12"));
+        check(band && QTest::qWaitForWindowExposed(band), "band window shown");
+        if (band) {
+            band->move(40, 40);
+            auto* read = band->findChild<QPushButton*>(QStringLiteral("Command1"));
+            read->click();
+            check(QTest::qWaitFor([&] { return read->isEnabled(); }, 15000), "band read");
+            settle();
+            save(QStringLiteral("13-band"), band->frameGeometry());
+        }
     }
     return failures == 0 ? 0 : 1;
 }
