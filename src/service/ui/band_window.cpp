@@ -54,6 +54,7 @@ BandWindow::BandWindow(ServiceChannel& channel, WindowPrompts& prompts, QWidget*
     for (const char* header : l10n::fixed::kBandHeaders) headers << fixed(header);
     grid_->setHorizontalHeaderLabels(headers);
     grid_->verticalHeader()->hide();
+    grid_->horizontalHeader()->setStretchLastSection(true);
     grid_->verticalHeader()->setDefaultSectionSize(kRowHeight);
     grid_->setItemDelegate(new KeyFilteredDelegate(&bandKeyAccepted, "GridEditor",
                                                    KeyFilteredDelegate::Enter::MovesOn, grid_));
@@ -86,8 +87,13 @@ BandWindow::BandWindow(ServiceChannel& channel, WindowPrompts& prompts, QWidget*
     };
     for (const Button& b : buttons)
         buttons_.append(named(new QPushButton(fixed(b.caption)), b.name));
+    // Read and write, the file, then the radio's own table.
     auto* operations = new QGridLayout;
-    for (int i = 0; i < 5; ++i) operations->addWidget(buttons_[i], i / 2, i % 2);
+    operations->addWidget(buttons_[0], 0, 0);
+    operations->addWidget(buttons_[1], 0, 1);
+    operations->addWidget(buttons_[4], 1, 0);
+    operations->addWidget(buttons_[3], 1, 1);
+    operations->addWidget(buttons_[2], 2, 0, 1, 2);
 
     std::array<QScrollBar*, kBandSliders> bars{};
     std::array<QLineEdit*, kBandSliders> boxes{};

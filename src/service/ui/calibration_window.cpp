@@ -8,6 +8,7 @@
 #include <QPushButton>
 #include <QScrollBar>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "l10n/texts.h"
 #include "l10n/window_texts.h"
@@ -129,6 +130,13 @@ void CalibrationWindow::applyCaptions() {
         }
         labels_[static_cast<size_t>(info.field)]->setText(caption);
     }
+    // One label width for the three frames, so that their sliders line up.
+    int width = 0;
+    for (QLabel* label : labels_) {
+        label->setMinimumWidth(0);
+        width = std::max(width, label->sizeHint().width());
+    }
+    for (QLabel* label : labels_) label->setMinimumWidth(width);
 }
 
 void CalibrationWindow::run(bool (CalibrationPanel::*operation)()) {
