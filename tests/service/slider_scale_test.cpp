@@ -3,8 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include "service/band_table.h"
-#include "service/calibration.h"
 #include "service/field_value.h"
 
 namespace {
@@ -38,26 +36,6 @@ TEST(SliderScale, TheSliderFollowsANumberClampedToItsRange) {
         {{0, 128, 0}, "7a", std::nullopt}, {{0, 330, 2}, ".", std::nullopt},
     };
     for (const auto& c : cases) EXPECT_EQ(c.scale.position(c.text), c.position) << c.text;
-}
-
-TEST(SliderScale, PanelSlidersHaveTheirRangesAndStartValues) {
-    const struct {
-        CalibrationField field;
-        int min, max;
-    } calibration[] = {
-        {CalibrationField::RssiNarrow, 10, 254},
-        {CalibrationField::PowerHigh, 0, 128},
-        {CalibrationField::RxPwm, 0, 128},
-        {CalibrationField::NoiseWide, 0, 254},
-    };
-    for (const auto& c : calibration) {
-        const SliderScale scale = calibrationSlider(c.field);
-        EXPECT_EQ(scale.min, c.min);
-        EXPECT_EQ(scale.max, c.max);
-    }
-    QStringList shown;
-    for (const BandSliderInfo& info : bandSliders()) shown << info.scale.text(info.initial);
-    EXPECT_EQ(shown, QStringList({"1.70", "1.65", "21", "21"}));
 }
 
 }  // namespace
