@@ -81,4 +81,24 @@ inline constexpr const char* kRegisterWriteRfic = "Write RFIC";
 inline constexpr const char* kCrystalWindowTitle = "RF 晶体修正";
 inline constexpr const char* kCrystalLabel = "晶体修正值";
 
+// The engineering-mode window; its other captions change with the language.
+inline constexpr const char* kCalibrationWindowTitle = "工程模式";
+inline constexpr const char* kCalibrationPowerFrame = "Power DA";
+inline constexpr const char* kCalibrationNoiseFrame = "Noise调整";
+inline constexpr const char* kCalibrationNoiseNarrow = "Noise窄带";
+inline constexpr const char* kCalibrationNoiseWide = "Noise宽带";
+inline constexpr const char* kCalibrationVersion = "版本信息";
+
+// The band-information window (and the engineering window's button that opens it).
+inline constexpr const char* kBandWindowTitle = "频段信息";
+inline constexpr const char* kBandHeaders[] = {"freq", "TX电压v", "Rx电压v", "RSSI"};
+inline constexpr const char* kBandSupply = "VDD=3.3 V";
+inline constexpr const char* kBandRestoreDefaults = "恢复默认值";
+inline constexpr const char* kBandAdjustFrame = "分段调整";
+inline constexpr const char* kBandTxFrame = "TX PWR";
+inline constexpr const char* kBandRssiFrame = "RSSI";
+inline constexpr const char* kBandLowHalf = "400-435M";
+inline constexpr const char* kBandHighHalf = "440-470M";
+inline constexpr const char* kBandAdjust = "调整";
+
 }  // namespace l10n::fixed

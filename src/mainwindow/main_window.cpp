@@ -19,10 +19,14 @@
 #include "mainwindow/document_history.h"
 #include "mainwindow/progress_window.h"
 #include "mainwindow/splash_screen.h"
+#include "service/ui/calibration_window.h"
 #include "service/ui/crystal_window.h"
 #include "service/ui/identity_window.h"
 #include "service/ui/register_window.h"
+#include "service/ui/show_once.h"
 #include "service/ui/test_mode_window.h"
+
+using service_ui::showOnce;
 
 namespace {
 
@@ -159,19 +163,6 @@ void MainWindow::openBootLoader() {
     bootLoaderWindow_->activateWindow();
 }
 
-namespace {
-
-// One engineering window, modeless, made on first use and raised afterwards.
-template <typename Window, typename... Args>
-void showOnce(QPointer<Window>& window, QWidget* parent, Args&... args) {
-    if (!window) window = new Window(args..., parent);
-    window->show();
-    window->raise();
-    window->activateWindow();
-}
-
-}  // namespace
-
 void MainWindow::openCrystalWindow() {
     serviceChannel_.setLanguage(doc_.language);
     showOnce(crystalWindow_, this, serviceChannel_);
@@ -191,6 +182,11 @@ void MainWindow::openIdentityWindow() {
 void MainWindow::openTestModeWindow() {
     serviceChannel_.setLanguage(doc_.language);
     showOnce(testModeWindow_, this, serviceChannel_);
+}
+
+void MainWindow::openCalibrationWindow() {
+    serviceChannel_.setLanguage(doc_.language);
+    showOnce(calibrationWindow_, this, serviceChannel_, prompts_);
 }
 
 void MainWindow::startUp(const std::optional<int>& portToSelect) {

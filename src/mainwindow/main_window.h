@@ -26,6 +26,7 @@ class QLabel;
 class QMenu;
 class QPushButton;
 class BootLoaderWindow;
+class CalibrationWindow;
 class CrystalWindow;
 class IdentityWindow;
 class TestModeWindow;
@@ -128,6 +129,7 @@ private:
     void openBootLoader();
     // Starts or stops writing the serial traffic to a file the user chooses.
     void traceToFile(bool on);
+    void openCalibrationWindow();
     void openCrystalWindow();
     void openRegisterWindow();
     void openIdentityWindow();
@@ -162,6 +164,7 @@ private:
     QPointer<SplashScreen> splash_;
     QPointer<PortPickerDialog> portPicker_;
     QPointer<BootLoaderWindow> bootLoaderWindow_;
+    QPointer<CalibrationWindow> calibrationWindow_;
     QPointer<CrystalWindow> crystalWindow_;
     QPointer<RegisterWindow> registerWindow_;
     QPointer<IdentityWindow> identityWindow_;

@@ -84,6 +84,7 @@ void MainWindow::buildMenus() {
     // The engineering windows hang here; those not yet part of this program rest disabled.
     programMenu_->addSeparator();
     engineeringAction_ = addNamedAction(programMenu_, "gcms");
+    connect(engineeringAction_, &QAction::triggered, this, &MainWindow::openCalibrationWindow);
     programMenu_->addSeparator();
     audioTestAction_ = addNamedAction(programMenu_, "ypcs");
     programMenu_->addSeparator();
@@ -111,7 +112,7 @@ void MainWindow::buildMenus() {
     QAction* bootLoader = addNamedAction(programMenu_, "prg");
     bootLoader->setText(fixedText(l10n::fixed::kBootLoaderItem));
     connect(bootLoader, &QAction::triggered, this, &MainWindow::openBootLoader);
-    for (QAction* item : {engineeringAction_, audioTestAction_}) item->setEnabled(false);
+    audioTestAction_->setEnabled(false);
 
     languageMenu_ = menuBar()->addMenu(QString());
     languageMenu_->setObjectName(QStringLiteral("lang"));

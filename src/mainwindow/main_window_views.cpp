@@ -135,10 +135,8 @@ void MainWindow::switchLanguage(UiLanguage language) {
     WriteConfigFile(configPath_, QStringLiteral("Lang"), language);
     applyLanguage(doc_, language);
     portControl_.setLanguage(language);
-    if (identityWindow_) {
-        serviceChannel_.setLanguage(language);
-        identityWindow_->retranslate();
-    }
+    serviceChannel_.setLanguage(language);  // the engineering window's captions follow
+    if (identityWindow_) identityWindow_->retranslate();
     applyCaptions();
     refreshDocumentViews();
     refreshPortViews();

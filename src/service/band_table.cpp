@@ -15,6 +15,16 @@ namespace {
 constexpr int kCells = BandTable::kRows * BandTable::kColumns;
 constexpr int kAdjustSplitRow = 8;
 
+// Hundredths of a volt, up to the 3.3 V full scale.
+constexpr SliderScale kTxScale{0, 330, 2};
+constexpr SliderScale kRssiScale{10, 254, 0};
+const std::array<BandSliderInfo, kBandSliders> kSliders = {{
+    {BandSlider::TxLow, kTxScale, 170},
+    {BandSlider::TxHigh, kTxScale, 165},
+    {BandSlider::RssiLow, kRssiScale, 21},
+    {BandSlider::RssiHigh, kRssiScale, 21},
+}};
+
 int at(const QByteArray& bytes, int i) {
     return i < bytes.size() ? static_cast<quint8>(bytes[i]) : 0;
 }
@@ -97,6 +107,10 @@ void applyBandSegment(BandTable* table, int segment, const QByteArray& payload) 
         table->cell(row, column) =
             column == BandTable::Rssi ? QString::number(byte) : byteToVoltageText(byte);
     }
+}
+
+const std::array<BandSliderInfo, kBandSliders>& bandSliders() {
+    return kSliders;
 }
 
 void adjustBand(BandTable* table, const QString& txLow, const QString& txHigh,

@@ -5,6 +5,7 @@
 #include <array>
 
 #include "l10n/language.h"
+#include "service/field_value.h"
 #include "service/service_request.h"
 
 // The band-information table: for each frequency point of the 400–470 MHz band, the transmit
@@ -61,6 +62,17 @@ BandSegment bandSegmentData(const BandTable& table, int segment, UiLanguage lang
 QByteArray bandWriteRequest(const RequestSelectors& selectors, const QByteArray& data);
 // A read reply into rows 1..15 of the segment's column; segment 1 changes nothing.
 void applyBandSegment(BandTable* table, int segment, const QByteArray& payload);
+
+// The "分段调整" sliders: the transmit voltage (its box in volts) and the RSSI, each for the
+// lower (400–435 MHz) and the upper (440–470 MHz) half of the band.
+enum class BandSlider { TxLow, TxHigh, RssiLow, RssiHigh };
+constexpr int kBandSliders = 4;
+struct BandSliderInfo {
+    BandSlider slider;
+    SliderScale scale;
+    int initial;
+};
+const std::array<BandSliderInfo, kBandSliders>& bandSliders();
 
 // The "分段调整" fill: the transmit voltage of rows 1..8 (400–435 MHz) and rows 9..15
 // (440–470 MHz), and the RSSI of the same halves. The receive voltage stays.

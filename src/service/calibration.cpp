@@ -78,9 +78,9 @@ void decodeCalibration(const QByteArray& record, CalibrationValues* values) {
     }
 }
 
-int calibrationSliderPosition(CalibrationField field, int value) {
+SliderScale calibrationSlider(CalibrationField field) {
     const CalibrationFieldInfo& info = calibrationField(field);
-    return std::clamp(value, info.sliderMin, info.sliderMax);
+    return {info.sliderMin, info.sliderMax};
 }
 
 CalibrationWrite calibrationWriteRequest(const CalibrationValues& values, int block, int sub,

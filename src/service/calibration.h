@@ -6,6 +6,7 @@
 #include <array>
 
 #include "l10n/language.h"
+#include "service/field_value.h"
 
 // The engineering panel's calibration values. Each is a slider with a text box; the write
 // sends what the boxes show, so the values are kept as text.
@@ -45,8 +46,8 @@ QByteArray calibrationReadRequest();
 // Decodes the record into the boxes (the receive PWM box keeps its text). Noise bytes of 255
 // (an erased record) read as 0. Values outside a slider's range are shown as received.
 void decodeCalibration(const QByteArray& record, CalibrationValues* values);
-// Where the slider stands for a box's value: clamped to its range.
-int calibrationSliderPosition(CalibrationField field, int value);
+// The field's slider, whose box shows its position as a whole number.
+SliderScale calibrationSlider(CalibrationField field);
 
 // The write request [0x59, 10, block, sub, the record, checksum], or the refusal naming the
 // first box that does not hold a number 0..255.

@@ -1,5 +1,6 @@
 #include "service/field_value.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "l10n/service_texts.h"
@@ -15,6 +16,19 @@ std::optional<double> decimalValue(const QString& text) {
 
 int roundHalfEven(double value) {
     return static_cast<int>(std::nearbyint(value));
+}
+
+QString SliderScale::text(int position) const {
+    if (decimals == 0) return QString::number(position);
+    return QString::number(position / std::pow(10.0, decimals), 'f', decimals);
+}
+
+std::optional<int> SliderScale::position(const QString& text) const {
+    const std::optional<double> number = decimalValue(text);
+    if (!number) return std::nullopt;
+    // Clamped before rounding, so that no number is too large for an int.
+    const double scaled = *number * std::pow(10.0, decimals);
+    return std::clamp(roundHalfEven(std::clamp<double>(scaled, min, max)), min, max);
 }
 
 QString outOfRangeMessage(const QString& field, const QString& text, const QString& low,

@@ -26,6 +26,20 @@ struct FieldResult {
     bool ok() const { return error.isEmpty(); }
 };
 
+// A slider with its text box. The box shows the position divided by 10^decimals; what is typed
+// into the box moves the slider, and a value received from the radio is shown in the box as
+// received while the slider stops at the end of its range.
+struct SliderScale {
+    int min = 0;
+    int max = 0;
+    int decimals = 0;
+
+    QString text(int position) const;
+    // Where the slider stands for the box's text: the number rounded and clamped to the range;
+    // nothing when the box holds no number (the slider stays where it is).
+    std::optional<int> position(const QString& text) const;
+};
+
 // A decimal text rounded into low..high (an empty text counts as `emptyValue`, when given).
 FieldResult integerField(const QString& text, int low, int high, const QString& field,
                          UiLanguage language, std::optional<int> emptyValue = std::nullopt);

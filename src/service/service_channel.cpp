@@ -13,6 +13,12 @@ ServiceChannel::~ServiceChannel() {
     transport_.release(this);
 }
 
+void ServiceChannel::setLanguage(UiLanguage language) {
+    if (language == language_) return;
+    language_ = language;
+    Q_EMIT languageChanged(language);
+}
+
 bool ServiceChannel::portOpen() const {
     return transport_.port().isOpen();
 }

@@ -41,7 +41,8 @@ public:
     ServiceChannel(LinkTransport& transport, Prompts& prompts, QObject* parent = nullptr);
     ~ServiceChannel() override;
 
-    void setLanguage(UiLanguage language) { language_ = language; }
+    // The windows' captions follow the language through languageChanged.
+    void setLanguage(UiLanguage language);
     UiLanguage language() const { return language_; }
     Prompts& prompts() { return prompts_; }
     bool portOpen() const;
@@ -88,6 +89,9 @@ public:
 Q_SIGNALS:
     // Monitor mode began or ended (whoever ended it).
     void monitorChanged(bool active);
+
+Q_SIGNALS:
+    void languageChanged(UiLanguage language);
 
 private:
     void complete(const Reply& reply);

@@ -80,7 +80,7 @@ void productionWindows(MainWindow& window) {
                   "identity written");
         }
         settle();
-        save(QStringLiteral("11-identity"), identity->frameGeometry());
+        save(QStringLiteral("14-identity"), identity->frameGeometry());
         identity->hide();
     } else {
         check(false, "Form6");
@@ -96,13 +96,13 @@ void productionWindows(MainWindow& window) {
     check(QTest::qWaitFor([&] { return rssi->text() != QLatin1String("0"); }, 15000),
           "RSSI monitor live");
     settle(1000);
-    save(QStringLiteral("12-test-mode-rssi"), test->frameGeometry());
+    save(QStringLiteral("15-test-mode-rssi"), test->frameGeometry());
     auto* battery = test->findChild<QLineEdit*>(QStringLiteral("Text5"));
     test->findChild<QPushButton*>(QStringLiteral("Command3"))->click();
     check(QTest::qWaitFor([&] { return battery->text() != QLatin1String("0"); }, 15000),
           "battery monitor live");
     settle(600);
-    save(QStringLiteral("13-test-mode-battery"), test->frameGeometry());
+    save(QStringLiteral("16-test-mode-battery"), test->frameGeometry());
     test->close();  // tells the radio to stop
     settle();
 }
@@ -201,7 +201,8 @@ int main(int argc, char** argv) {
         const char* shot;
     };
     for (const Engineering& e : {Engineering{"crs", "Form14", "Command1", "8-crystal"},
-                                 Engineering{"RFReg_Test", "Form9", "Command2", "9-registers"}}) {
+                                 Engineering{"RFReg_Test", "Form9", "Command2", "9-registers"},
+                                 Engineering{"gcms", "Form3", "Command1", "11-calibration"}}) {
         window.findChild<QAction*>(QString::fromLatin1(e.item))->trigger();
         QWidget* shown = nullptr;
         for (QWidget* top : QApplication::topLevelWidgets()) {
@@ -216,6 +217,24 @@ int main(int argc, char** argv) {
         settle();
         save(QString::fromLatin1(e.shot), shown->frameGeometry());
         shown->hide();
+    }
+    // The engineering window in Chinese, and the band window it opens after a read.
+    window.findChild<QAction*>(QStringLiteral("chn"))->trigger();
+    window.findChild<QAction*>(QStringLiteral("gcms"))->trigger();
+    if (auto* calibration = window.findChild<QWidget*>(QStringLiteral("Form3"))) {
+        settle();
+        save(QStringLiteral("12-calibration-chinese"), calibration->frameGeometry());
+        calibration->findChild<QPushButton*>(QStringLiteral("Command3"))->click();
+        auto* band = calibration->findChild<QWidget*>(QStringLiteral("Form12"));
+        check(band && QTest::qWaitForWindowExposed(band), "band window shown");
+        if (band) {
+            band->move(40, 40);
+            auto* read = band->findChild<QPushButton*>(QStringLiteral("Command1"));
+            read->click();
+            check(QTest::qWaitFor([&] { return read->isEnabled(); }, 15000), "band read");
+            settle();
+            save(QStringLiteral("13-band"), band->frameGeometry());
+        }
     }
     productionWindows(window);
     return failures == 0 ? 0 : 1;

@@ -162,14 +162,14 @@ TEST(Ports, TheListMenuAndPickerFollowThePortControl) {
 
 TEST(EngineeringWindows, EachMenuItemOpensOneModelessInstance) {
     WindowFixture f(startupDocument(UiLanguage::Chinese));
-    for (const char* item : {"crs", "RFReg_Test"}) {
+    for (const char* item : {"crs", "RFReg_Test", "gcms", "xid", "csms"}) {
         SCOPED_TRACE(item);
         QAction* action = f.find<QAction>(item);
         ASSERT_TRUE(action->isEnabled());
         action->trigger();
         action->trigger();
     }
-    for (const char* form : {"Form14", "Form9"}) {
+    for (const char* form : {"Form14", "Form9", "Form3", "Form6", "Form4"}) {
         SCOPED_TRACE(form);
         const QList<QWidget*> windows = f.window->findChildren<QWidget*>(QString::fromLatin1(form));
         ASSERT_EQ(windows.size(), 1);
@@ -177,4 +177,14 @@ TEST(EngineeringWindows, EachMenuItemOpensOneModelessInstance) {
         EXPECT_TRUE(windows[0]->isWindow());
         EXPECT_EQ(windows[0]->windowModality(), Qt::NonModal);
     }
+    // The engineering window's captions follow the language menu.
+    auto* read = f.window->findChild<QWidget*>(QStringLiteral("Form3"))
+                     ->findChild<QPushButton*>(QStringLiteral("Command1"));
+    EXPECT_EQ(read->text(), "数据读取");
+    auto* writeId = f.window->findChild<QWidget*>(QStringLiteral("Form6"))
+                        ->findChild<QPushButton*>(QStringLiteral("Command1"));
+    EXPECT_EQ(writeId->text(), "写ID");
+    f.find<QAction>("eng")->trigger();
+    EXPECT_EQ(read->text(), "Read");
+    EXPECT_EQ(writeId->text(), "Write ID");
 }

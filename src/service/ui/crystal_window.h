@@ -4,9 +4,8 @@
 
 #include "service/crystal_panel.h"
 
-class QLineEdit;
 class QPushButton;
-class QScrollBar;
+class SliderBox;
 
 // "RF 晶体修正": the crystal trim on a slider with its text box, read and written by the
 // CrystalPanel; the buttons rest while its exchange runs.
@@ -20,12 +19,8 @@ public:
     bool isBusy() const { return panel_.isRunning(); }
 
 private:
-    void showValue(const QString& text);
-    void textEdited(const QString& text);
-
     CrystalPanel panel_;
-    QScrollBar* slider_;        // HScroll1
-    QLineEdit* valueEdit_;      // Text1
+    SliderBox* value_;          // HScroll1 with Text1
     QPushButton* readButton_;   // Command1
     QPushButton* writeButton_;  // Command2
 };

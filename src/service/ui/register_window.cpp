@@ -3,62 +3,18 @@
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHeaderView>
-#include <QKeyEvent>
-#include <QLineEdit>
 #include <QPushButton>
-#include <QStyledItemDelegate>
 #include <QTableWidget>
 #include <QVBoxLayout>
 
-#include "l10n/error_texts.h"
 #include "l10n/window_texts.h"
-#include "persistence/file_access.h"
 #include "platform/window_prompts.h"
+#include "service/ui/cell_key_filter.h"
+#include "service/ui/panel_file_dialogs.h"
 #include "service/ui/widget_names.h"
 
 using service_ui::fixed;
 using service_ui::named;
-
-namespace {
-
-// Text1, the cell editor: typed characters pass the register key filter of its column.
-class RegisterKeyFilter : public QObject {
-public:
-    RegisterKeyFilter(QLineEdit* editor, int column)
-        : QObject(editor), editor_(editor), column_(column) {}
-
-protected:
-    bool eventFilter(QObject* watched, QEvent* event) override {
-        if (event->type() != QEvent::KeyPress) return QObject::eventFilter(watched, event);
-        const auto* key = static_cast<QKeyEvent*>(event);
-        const QString typed = key->text();
-        if (typed.size() != 1 || !typed[0].isPrint()) return false;  // editing and moving keys
-        QString text = editor_->text();
-        if (editor_->hasSelectedText())
-            text.remove(editor_->selectionStart(), editor_->selectedText().size());
-        return !registerKeyAccepted(column_, text, typed[0]);
-    }
-
-private:
-    QLineEdit* editor_;
-    int column_;
-};
-
-class RegisterCellDelegate : public QStyledItemDelegate {
-public:
-    using QStyledItemDelegate::QStyledItemDelegate;
-    QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option,
-                          const QModelIndex& index) const override {
-        QWidget* editor = QStyledItemDelegate::createEditor(parent, option, index);
-        if (auto* line = qobject_cast<QLineEdit*>(editor)) {
-            line->setObjectName(QStringLiteral("Text1"));
-            line->installEventFilter(new RegisterKeyFilter(line, index.column()));
-        }
-        return editor;
-    }
-};
-
-}  // namespace
 
 RegisterWindow::RegisterWindow(ServiceChannel& channel, WindowPrompts& prompts, QWidget* parent)
     : QWidget(parent, Qt::Window), channel_(channel), prompts_(prompts), panel_(channel) {
@@ -70,7 +26,8 @@ RegisterWindow::RegisterWindow(ServiceChannel& channel, WindowPrompts& prompts, 
                                       fixed(l10n::fixed::kRegisterAddressHeader),
                                       fixed(l10n::fixed::kRegisterDataHeader)});
     grid_->verticalHeader()->hide();
-    grid_->setItemDelegate(new RegisterCellDelegate(grid_));
+    grid_->setItemDelegate(new KeyFilteredDelegate(&registerKeyAccepted, "Text1",
+                                                   KeyFilteredDelegate::Enter::Commits, grid_));
     grid_->setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed |
                            QAbstractItemView::AnyKeyPressed);
     grid_->setColumnWidth(0, 60);
@@ -136,11 +93,7 @@ void RegisterWindow::run(bool (RegisterPanel::*operation)()) {
 }
 
 void RegisterWindow::takeGrid() {
-    // A cell still being edited counts with what it holds.
-    // (leaving the current cell commits its editor).
-    const QModelIndex current = grid_->currentIndex();
-    grid_->setCurrentIndex({});
-    grid_->setCurrentIndex(current);
+    commitCellEditor(grid_);
     for (int r = 1; r <= RegisterGrid::kRows; ++r) {
         panel_.grid.row(r) = {grid_->item(r - 1, 1)->text(), grid_->item(r - 1, 2)->text()};
     }
@@ -154,16 +107,11 @@ void RegisterWindow::showGrid() {
 }
 
 void RegisterWindow::loadFile() {
-    const QString path = prompts_.chooseOpenFile(fixed(l10n::fixed::kTextFilter));
-    if (path.isEmpty()) return;
-    const Result<QByteArray> bytes = readWholeFile(path);
     const UiLanguage language = channel_.language();
-    if (!bytes) {
-        prompts_.showMessage({l10n::describeError(bytes.error(), language), {}});
-        return;
-    }
+    const std::optional<QByteArray> bytes = openPanelFile(prompts_, language);
+    if (!bytes) return;
     QString dropped;
-    panel_.grid = registerGridFromFile(bytes.value(), language, &dropped);
+    panel_.grid = registerGridFromFile(*bytes, language, &dropped);
     showGrid();
     if (!dropped.isEmpty()) {
         prompts_.showMessage({dropped, l10n::serviceText(l10n::ServiceText::TitleRfReg, language)});
@@ -172,9 +120,5 @@ void RegisterWindow::loadFile() {
 
 void RegisterWindow::saveFile() {
     takeGrid();
-    const QString path = prompts_.chooseSaveFile(fixed(l10n::fixed::kTextFilter));
-    if (path.isEmpty()) return;
-    if (const Result<void> saved = saveWholeFile(path, registerFileBytes(panel_.grid)); !saved) {
-        prompts_.showMessage({l10n::describeError(saved.error(), channel_.language()), {}});
-    }
+    savePanelFile(prompts_, channel_.language(), registerFileBytes(panel_.grid));
 }
