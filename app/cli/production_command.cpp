@@ -81,6 +81,10 @@ int monitor(ServiceConsole& console, const ProductionRequest& request) {
             reportStop(signalNumber);
             QCoreApplication::exit(0);
         });
+        // A port that goes away ends the monitor too.
+        QObject::connect(&panel, &TestModePanel::liveChanged, [](MonitorMode mode) {
+            if (mode == MonitorMode::Stop) QCoreApplication::exit(0);
+        });
         QTimer timeUp;
         timeUp.setSingleShot(true);
         QObject::connect(&timeUp, &QTimer::timeout, [] { QCoreApplication::exit(0); });

@@ -12,7 +12,8 @@ const TextPair kProductionTexts[] = {
     {"测试模式 写 OK!!", "测试模式 写 OK!!"},
     {"测试模式 写 出错!!", "测试模式 写 出错!!"},
     {"测试模式选择", "测试模式选择"},
-    {"监测已停止：通信端口用于其他请求", "Monitor stopped: the link was used for another request"},
+    {"监测已停止（通信口另有用途或已断开），按 start 重新开始",
+     "Monitor stopped (the link was needed elsewhere or lost); press start to watch again"},
 };
 
 static_assert(std::size(kProductionTexts) == static_cast<int>(ProductionText::MonitorEnded) + 1);

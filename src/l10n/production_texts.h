@@ -12,7 +12,7 @@ enum class ProductionText {
     TestWriteOk,
     TestWriteFailed,
     TitleTestMode,
-    // The test window once another operation on the link has ended its monitor.
+    // The test window once another operation on the link, or a lost port, has ended its monitor.
     MonitorEnded,
 };
 

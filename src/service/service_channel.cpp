@@ -7,7 +7,10 @@
 #include "platform/serial_port.h"
 
 ServiceChannel::ServiceChannel(LinkTransport& transport, Prompts& prompts, QObject* parent)
-    : QObject(parent), transport_(transport), prompts_(prompts) {}
+    : QObject(parent), transport_(transport), prompts_(prompts) {
+    // Nothing more will come from a port that is gone.
+    connect(&transport_, &LinkTransport::portLost, this, [this] { setMonitor(nullptr); });
+}
 
 ServiceChannel::~ServiceChannel() {
     transport_.release(this);

@@ -32,7 +32,8 @@ public:
 
 Q_SIGNALS:
     void measured(const MonitorFrame& frame);
-    // The monitor started or ended; `byOther` when another panel's operation ended it.
+    // The monitor started or ended; `byOther` when another operation on the channel, or the
+    // port going away, ended it.
     void liveChanged(MonitorMode mode, bool byOther);
 
 private:

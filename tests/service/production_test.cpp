@@ -220,6 +220,25 @@ TEST_F(ProductionPanelsTest, AnotherPanelsExchangeEndsTheMonitor) {
     EXPECT_FALSE(channel.monitorActive());
 }
 
+TEST_F(ProductionPanelsTest, ALostPortEndsTheMonitor) {
+    TestModePanel panel(channel);
+    std::vector<std::pair<MonitorMode, bool>> changes;
+    QObject::connect(&panel, &TestModePanel::liveChanged,
+                     [&](MonitorMode mode, bool byOther) { changes.emplace_back(mode, byOther); });
+    run(panel, [&] { return panel.startMonitor(MonitorMode::Battery); });
+    clock.advance(500);
+    ASSERT_TRUE(panel.battery.has_value());
+    Q_EMIT port.failed(QStringLiteral("unplugged"));
+    EXPECT_EQ(changes, (std::vector<std::pair<MonitorMode, bool>>{{MonitorMode::Battery, false},
+                                                                  {MonitorMode::Stop, true}}));
+    // A start with the port gone says so and does not count as live.
+    EXPECT_EQ(run(panel, [&] { return panel.startMonitor(MonitorMode::Rssi); }),
+              QStringList{"box: Please check COM Port | NOTE | warning"});
+    EXPECT_EQ(panel.monitor(), MonitorMode::Stop);
+    EXPECT_EQ(panel.outcome(), ServiceOutcome::Failed);
+    EXPECT_FALSE(channel.monitorActive());
+}
+
 TEST_F(ProductionPanelsTest, TheDtmfTestsStartAndStop) {
     TestModePanel panel(channel);
     const struct {
