@@ -103,6 +103,8 @@ TestModeWindow::TestModeWindow(ServiceChannel& channel, QWidget* parent)
     layout->addWidget(liveState_);
 
     setIndicator(palette().color(QPalette::Button));
+    // The displays only show; the keyboard starts on the first "start".
+    rssiStart->setFocus();
 
     connect(rssiStart, &QPushButton::clicked, this,
             [this] { panel_.startMonitor(MonitorMode::Rssi); });
