@@ -2,7 +2,7 @@
 # Saves screenshots of the desktop program, run under Xvfb, into OUTDIR:
 # the splash, the main window in Chinese and English, a read in progress, the window after a
 # read from the simulated radio, an open code picker, the window resized, and the engineering
-# windows after a read.
+# windows (crystal, registers, hardware, volume, audio player) after a read.
 # usage: scripts/screenshots.sh OUTDIR
 set -euo pipefail
 cd "$(dirname "$0")/.."

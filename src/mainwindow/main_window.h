@@ -27,6 +27,9 @@ class QMenu;
 class QPushButton;
 class BootLoaderWindow;
 class CrystalWindow;
+class HardwareWindow;
+class PlayerWindow;
+class VolumeWindow;
 class RegisterWindow;
 class ChannelGridModel;
 class DocumentHistory;
@@ -128,6 +131,9 @@ private:
     void traceToFile(bool on);
     void openCrystalWindow();
     void openRegisterWindow();
+    void openHardwareWindow();
+    void openVolumeWindow();
+    void openPlayerWindow();
     void startWrite();
     void startSession(std::unique_ptr<RadioSession> session);
     void sessionFinished();
@@ -160,6 +166,9 @@ private:
     QPointer<BootLoaderWindow> bootLoaderWindow_;
     QPointer<CrystalWindow> crystalWindow_;
     QPointer<RegisterWindow> registerWindow_;
+    QPointer<HardwareWindow> hardwareWindow_;
+    QPointer<VolumeWindow> volumeWindow_;
+    QPointer<PlayerWindow> playerWindow_;
 
     // Widgets that change caption with the language, by role.
     std::array<QComboBox*, kSettingCount> settingBoxes_{};

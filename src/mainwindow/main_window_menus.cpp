@@ -86,6 +86,7 @@ void MainWindow::buildMenus() {
     engineeringAction_ = addNamedAction(programMenu_, "gcms");
     programMenu_->addSeparator();
     audioTestAction_ = addNamedAction(programMenu_, "ypcs");
+    connect(audioTestAction_, &QAction::triggered, this, &MainWindow::openVolumeWindow);
     programMenu_->addSeparator();
     testModeAction_ = addNamedAction(programMenu_, "csms");
     for (const auto& [name, caption] : {std::pair{"RFReg_Test", l10n::fixed::kRegisterTestItem},
@@ -99,6 +100,10 @@ void MainWindow::buildMenus() {
             connect(item, &QAction::triggered, this, &MainWindow::openCrystalWindow);
         } else if (QLatin1String(name) == QLatin1String("RFReg_Test")) {
             connect(item, &QAction::triggered, this, &MainWindow::openRegisterWindow);
+        } else if (QLatin1String(name) == QLatin1String("yjx")) {
+            connect(item, &QAction::triggered, this, &MainWindow::openHardwareWindow);
+        } else if (QLatin1String(name) == QLatin1String("mp3")) {
+            connect(item, &QAction::triggered, this, &MainWindow::openPlayerWindow);
         } else {
             item->setEnabled(false);
         }
@@ -109,7 +114,7 @@ void MainWindow::buildMenus() {
     QAction* bootLoader = addNamedAction(programMenu_, "prg");
     bootLoader->setText(fixedText(l10n::fixed::kBootLoaderItem));
     connect(bootLoader, &QAction::triggered, this, &MainWindow::openBootLoader);
-    for (QAction* item : {engineeringAction_, audioTestAction_, testModeAction_, identityAction_}) {
+    for (QAction* item : {engineeringAction_, testModeAction_, identityAction_}) {
         item->setEnabled(false);
     }
 

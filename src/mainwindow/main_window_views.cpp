@@ -134,6 +134,8 @@ void MainWindow::switchLanguage(UiLanguage language) {
     WriteConfigFile(configPath_, QStringLiteral("Lang"), language);
     applyLanguage(doc_, language);
     portControl_.setLanguage(language);
+    // The engineering windows' boxes follow too.
+    serviceChannel_.setLanguage(language);
     applyCaptions();
     refreshDocumentViews();
     refreshPortViews();

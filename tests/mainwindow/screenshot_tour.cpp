@@ -153,7 +153,10 @@ int main(int argc, char** argv) {
         const char* shot;
     };
     for (const Engineering& e : {Engineering{"crs", "Form14", "Command1", "8-crystal"},
-                                 Engineering{"RFReg_Test", "Form9", "Command2", "9-registers"}}) {
+                                 Engineering{"RFReg_Test", "Form9", "Command2", "9-registers"},
+                                 Engineering{"yjx", "Form10", "Command1", "11-hardware"},
+                                 Engineering{"ypcs", "Form7", "Command1", "12-volume"},
+                                 Engineering{"mp3", "Form11", "Command1", "13-player"}}) {
         window.findChild<QAction*>(QString::fromLatin1(e.item))->trigger();
         QWidget* shown = nullptr;
         for (QWidget* top : QApplication::topLevelWidgets()) {
