@@ -162,14 +162,14 @@ TEST(Ports, TheListMenuAndPickerFollowThePortControl) {
 
 TEST(EngineeringWindows, EachMenuItemOpensOneModelessInstance) {
     WindowFixture f(startupDocument(UiLanguage::Chinese));
-    for (const char* item : {"crs", "RFReg_Test"}) {
+    for (const char* item : {"crs", "RFReg_Test", "yjx", "ypcs", "mp3"}) {
         SCOPED_TRACE(item);
         QAction* action = f.find<QAction>(item);
         ASSERT_TRUE(action->isEnabled());
         action->trigger();
         action->trigger();
     }
-    for (const char* form : {"Form14", "Form9"}) {
+    for (const char* form : {"Form14", "Form9", "Form10", "Form7", "Form11"}) {
         SCOPED_TRACE(form);
         const QList<QWidget*> windows = f.window->findChildren<QWidget*>(QString::fromLatin1(form));
         ASSERT_EQ(windows.size(), 1);
