@@ -178,3 +178,17 @@ TEST(EngineeringWindows, EachMenuItemOpensOneModelessInstance) {
         EXPECT_EQ(windows[0]->windowModality(), Qt::NonModal);
     }
 }
+
+TEST(EngineeringWindows, TheVolumeWindowAnswersInTheLanguageOfTheMoment) {
+    WindowFixture f(startupDocument(UiLanguage::Chinese));
+    f.find<QAction>("ypcs")->trigger();
+    auto* read = f.window->findChild<QWidget*>(QStringLiteral("Form7"))
+                     ->findChild<QPushButton*>(QStringLiteral("Command1"));
+    for (const char* expected : {"读取 OK", "Read OK"}) {
+        const qsizetype before = f.prompts.boxTexts().size();
+        read->click();
+        ASSERT_TRUE(f.waitFor([&] { return f.prompts.boxTexts().size() > before; }));
+        EXPECT_EQ(f.prompts.boxTexts().last(), QString::fromUtf8(expected));
+        f.find<QAction>("eng")->trigger();
+    }
+}
