@@ -1,5 +1,6 @@
 #include "cli/board_actions.h"
 
+#include <QSet>
 #include <QTextStream>
 #include <functional>
 
@@ -37,7 +38,9 @@ int run(ServiceConsole& console, const ServiceRequest& request,
     // every value is named, or one does not fit (and is refused before anything is sent),
     // there is nothing to read first.
     job.take(values);
-    if (static_cast<int>(values.size()) < job.valueCount && job.fits()) {
+    QSet<QString> named;
+    for (const Assignment& value : values) named.insert(value.first);
+    if (named.size() < job.valueCount && job.fits()) {
         const ServiceOutcome outcome = console.run(job.panel, job.read);
         if (outcome != ServiceOutcome::Succeeded) return exitStatus(outcome);
         job.take(values);

@@ -84,8 +84,7 @@ back unchanged, e.g. `service --port COM3 crystal write $(cat crystal.txt)`.
                pkey                         2.40 2.30 2.20 2.10 2.00 1.90 1.80 1.70 1.60 1.50
                                             1.20 (volts; a read shows nothing when the radio
                                             holds a threshold outside this list)
-  volume       mic vol1 ... vol8 pmic       0..255 (the sliders span 1..63; MIC 1..31 with the
-                                            RF4818 transceiver)
+  volume       mic vol1 ... vol8 pmic       0..255 (the sliders span 1..63)
   player       vol1 ... vol8                0..255 (the sliders span 1..31)
 -o FILE saves what was read as the panel's text file (registers: 20 lines, address and value
 of each row; band: 60 lines, the TX, RX and RSSI columns of rows 1..20); a write takes it back.
