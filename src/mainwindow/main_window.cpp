@@ -21,8 +21,10 @@
 #include "mainwindow/splash_screen.h"
 #include "service/ui/calibration_window.h"
 #include "service/ui/crystal_window.h"
+#include "service/ui/hardware_window.h"
 #include "service/ui/register_window.h"
 #include "service/ui/show_once.h"
+#include "service/ui/volume_window.h"
 
 using service_ui::showOnce;
 
@@ -121,6 +123,9 @@ MainWindow::~MainWindow() {
     // And the engineering windows, whose panels give up their requests on the channel.
     delete crystalWindow_;
     delete registerWindow_;
+    delete hardwareWindow_;
+    delete volumeWindow_;
+    delete playerWindow_;
     transport_.setTrace(nullptr);
 }
 
@@ -172,6 +177,21 @@ void MainWindow::openRegisterWindow() {
 void MainWindow::openCalibrationWindow() {
     serviceChannel_.setLanguage(doc_.language);
     showOnce(calibrationWindow_, this, serviceChannel_, prompts_);
+}
+
+void MainWindow::openHardwareWindow() {
+    serviceChannel_.setLanguage(doc_.language);
+    showOnce(hardwareWindow_, this, serviceChannel_);
+}
+
+void MainWindow::openVolumeWindow() {
+    serviceChannel_.setLanguage(doc_.language);
+    showOnce(volumeWindow_, this, serviceChannel_);
+}
+
+void MainWindow::openPlayerWindow() {
+    serviceChannel_.setLanguage(doc_.language);
+    showOnce(playerWindow_, this, serviceChannel_);
 }
 
 void MainWindow::startUp(const std::optional<int>& portToSelect) {

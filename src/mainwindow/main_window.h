@@ -28,6 +28,9 @@ class QPushButton;
 class BootLoaderWindow;
 class CalibrationWindow;
 class CrystalWindow;
+class HardwareWindow;
+class PlayerWindow;
+class VolumeWindow;
 class RegisterWindow;
 class ChannelGridModel;
 class DocumentHistory;
@@ -130,6 +133,9 @@ private:
     void openCalibrationWindow();
     void openCrystalWindow();
     void openRegisterWindow();
+    void openHardwareWindow();
+    void openVolumeWindow();
+    void openPlayerWindow();
     void startWrite();
     void startSession(std::unique_ptr<RadioSession> session);
     void sessionFinished();
@@ -163,6 +169,9 @@ private:
     QPointer<CalibrationWindow> calibrationWindow_;
     QPointer<CrystalWindow> crystalWindow_;
     QPointer<RegisterWindow> registerWindow_;
+    QPointer<HardwareWindow> hardwareWindow_;
+    QPointer<VolumeWindow> volumeWindow_;
+    QPointer<PlayerWindow> playerWindow_;
 
     // Widgets that change caption with the language, by role.
     std::array<QComboBox*, kSettingCount> settingBoxes_{};

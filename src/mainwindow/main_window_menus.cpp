@@ -87,6 +87,7 @@ void MainWindow::buildMenus() {
     connect(engineeringAction_, &QAction::triggered, this, &MainWindow::openCalibrationWindow);
     programMenu_->addSeparator();
     audioTestAction_ = addNamedAction(programMenu_, "ypcs");
+    connect(audioTestAction_, &QAction::triggered, this, &MainWindow::openVolumeWindow);
     programMenu_->addSeparator();
     testModeAction_ = addNamedAction(programMenu_, "csms");
     for (const auto& [name, caption] : {std::pair{"RFReg_Test", l10n::fixed::kRegisterTestItem},
@@ -100,6 +101,10 @@ void MainWindow::buildMenus() {
             connect(item, &QAction::triggered, this, &MainWindow::openCrystalWindow);
         } else if (QLatin1String(name) == QLatin1String("RFReg_Test")) {
             connect(item, &QAction::triggered, this, &MainWindow::openRegisterWindow);
+        } else if (QLatin1String(name) == QLatin1String("yjx")) {
+            connect(item, &QAction::triggered, this, &MainWindow::openHardwareWindow);
+        } else if (QLatin1String(name) == QLatin1String("mp3")) {
+            connect(item, &QAction::triggered, this, &MainWindow::openPlayerWindow);
         } else {
             item->setEnabled(false);
         }
@@ -110,7 +115,7 @@ void MainWindow::buildMenus() {
     QAction* bootLoader = addNamedAction(programMenu_, "prg");
     bootLoader->setText(fixedText(l10n::fixed::kBootLoaderItem));
     connect(bootLoader, &QAction::triggered, this, &MainWindow::openBootLoader);
-    for (QAction* item : {audioTestAction_, testModeAction_, identityAction_}) {
+    for (QAction* item : {testModeAction_, identityAction_}) {
         item->setEnabled(false);
     }
 

@@ -19,6 +19,12 @@ constexpr quint8 kBandWrite = 0x69;         // "i"  with a 22-byte payload: one 
 constexpr quint8 kBandDefaults = 0x6A;      // "j"  with a 3-byte payload
 constexpr quint8 kCrystalRead = 0x6D;       // "m"
 constexpr quint8 kCrystalWrite = 0x6E;      // "n"
+constexpr quint8 kVolumeRead = 0x56;        // "V"
+constexpr quint8 kVolumeWrite = 0x5C;       // backslash
+constexpr quint8 kHardwareWrite = 0x64;     // "d"
+constexpr quint8 kHardwareRead = 0x65;      // "e"
+constexpr quint8 kPlayerRead = 0x69;        // "i"  with a 3-byte payload; kBandWrite's code
+constexpr quint8 kPlayerWrite = 0x6A;       // "j"  with an 11-byte payload; kBandDefaults' code
 
 // pack_pc_cmd's fifth byte, and the one the calibration read asks with.
 constexpr quint8 kPlainRequestTag = 0x05;
@@ -32,6 +38,9 @@ constexpr int kBandSegments = 4;
 constexpr int kBandPointsRead = 15;  // a read uses the first 15 bytes of a segment
 constexpr int kCrystalReplySize = 5;
 constexpr int kCrystalReplyByte = 4;
+constexpr int kHardwareReplySize = 2;  // PTT pin, threshold index (a longer reply is read too)
+constexpr int kVolumeRecordSize = 10;
+constexpr int kPlayerRecordSize = 9;  // a byte the program does not use, then eight levels
 
 // The calibration record's bytes.
 constexpr int kCalPowerHigh = 0, kCalPowerLow = 1, kCalRssiNarrow = 2, kCalRssiWide = 3;

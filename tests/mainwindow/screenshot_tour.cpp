@@ -154,7 +154,10 @@ int main(int argc, char** argv) {
     };
     for (const Engineering& e : {Engineering{"crs", "Form14", "Command1", "8-crystal"},
                                  Engineering{"RFReg_Test", "Form9", "Command2", "9-registers"},
-                                 Engineering{"gcms", "Form3", "Command1", "11-calibration"}}) {
+                                 Engineering{"gcms", "Form3", "Command1", "11-calibration"},
+                                 Engineering{"yjx", "Form10", "Command1", "14-hardware"},
+                                 Engineering{"ypcs", "Form7", "Command1", "15-volume"},
+                                 Engineering{"mp3", "Form11", "Command1", "16-player"}}) {
         window.findChild<QAction*>(QString::fromLatin1(e.item))->trigger();
         QWidget* shown = nullptr;
         for (QWidget* top : QApplication::topLevelWidgets()) {
