@@ -129,6 +129,8 @@ private:
     void openCrystalWindow();
     void openRegisterWindow();
     void startWrite();
+    // The Setup menu's backup and verify items, written to config.ini.
+    void rememberSafeWrite();
     void startSession(std::unique_ptr<RadioSession> session);
     void sessionFinished();
     void progressClosedByUser();
@@ -197,7 +199,9 @@ private:
     QAction* audioTestAction_ = nullptr;
     QAction* testModeAction_ = nullptr;
     QAction* identityAction_ = nullptr;
-    QAction* traceAction_ = nullptr;  // "Trace to file…"
+    QAction* traceAction_ = nullptr;   // "Trace to file…"
+    QAction* backupAction_ = nullptr;  // "Backup before write"
+    QAction* verifyAction_ = nullptr;  // "Verify after write"
     std::unique_ptr<QFile> traceFile_;
     std::unique_ptr<LinkTrace> trace_;
     QAction* chineseAction_ = nullptr;
