@@ -59,7 +59,8 @@ int main(int argc, char** argv) {
     cli.add_option("--cut", cut, "replies cut after their command byte")->delimiter(',');
     cli.add_option("--wrong-length", wrongLength, "replies one byte too long")->delimiter(',');
     cli.add_option("--hang-up", hangUp,
-                   "drop the line when this request arrives (27: right after a write's closing E)");
+                   "drop the line when this request arrives (27: right after the closing E of a "
+                   "write without backup)");
     cli.add_flag("--noise", noise, "answer nothing and fill the line with random bytes");
     cli.add_option("--erase-ms", eraseMs, "time the boot loader takes to erase")
         ->check(CLI::Range(0, 60000));
