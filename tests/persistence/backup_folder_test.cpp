@@ -19,7 +19,6 @@ TEST(BackupFolder, NamesTellTheTimeAndAPortNameEveryFileSystemTakes) {
     } cases[] = {
         {"COM3", "2026-11-23_17-40-05_COM3.qzv"},
         {"/dev/ttyUSB0", "2026-11-23_17-40-05_dev_ttyUSB0.qzv"},
-        {"sim", "2026-11-23_17-40-05_sim.qzv"},
         {"a:b*c?d\\\\e|f\"g<h>", "2026-11-23_17-40-05_a_b_c_d_e_f_g_h.qzv"},
         {"端口 7.", "2026-11-23_17-40-05_7.qzv"},
         {"", "2026-11-23_17-40-05_port.qzv"},
