@@ -137,6 +137,8 @@ private:
     void openVolumeWindow();
     void openPlayerWindow();
     void startWrite();
+    // The Setup menu's backup and verify items, written to config.ini.
+    void rememberSafeWrite();
     void startSession(std::unique_ptr<RadioSession> session);
     void sessionFinished();
     void progressClosedByUser();
@@ -209,7 +211,9 @@ private:
     QAction* audioTestAction_ = nullptr;
     QAction* testModeAction_ = nullptr;
     QAction* identityAction_ = nullptr;
-    QAction* traceAction_ = nullptr;  // "Trace to file…"
+    QAction* traceAction_ = nullptr;   // "Trace to file…"
+    QAction* backupAction_ = nullptr;  // "Backup before write"
+    QAction* verifyAction_ = nullptr;  // "Verify after write"
     std::unique_ptr<QFile> traceFile_;
     std::unique_ptr<LinkTrace> trace_;
     QAction* chineseAction_ = nullptr;

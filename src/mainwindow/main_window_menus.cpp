@@ -3,6 +3,7 @@
 
 #include "l10n/window_texts.h"
 #include "mainwindow/main_window.h"
+#include "persistence/config_file.h"
 
 // The menu bar as the program always had it; captions come with the language (applyCaptions).
 
@@ -71,6 +72,17 @@ void MainWindow::buildMenus() {
     traceAction_ = addNamedAction(setupMenu_, "TraceToFile");
     traceAction_->setCheckable(true);
     connect(traceAction_, &QAction::toggled, this, &MainWindow::traceToFile);
+    // Both on unless config.ini says otherwise; a change is remembered there.
+    const SafeWritePreferences safety = readSafeWritePreferences(configPath_);
+    backupAction_ = addNamedAction(setupMenu_, "BackupBeforeWrite");
+    verifyAction_ = addNamedAction(setupMenu_, "VerifyAfterWrite");
+    backupAction_->setCheckable(true);
+    backupAction_->setChecked(safety.backup);
+    verifyAction_->setCheckable(true);
+    verifyAction_->setChecked(safety.verify);
+    for (QAction* item : {backupAction_, verifyAction_}) {
+        connect(item, &QAction::toggled, this, &MainWindow::rememberSafeWrite);
+    }
     setupMenu_->addSeparator();
 
     programMenu_ = menuBar()->addMenu(QString());

@@ -7,6 +7,7 @@
 #include <QPushButton>
 #include <QStatusBar>
 
+#include "l10n/safe_write_texts.h"
 #include "link/read_session.h"
 #include "link/write_session.h"
 #include "mainwindow/channel_grid_view.h"
@@ -15,11 +16,17 @@
 #include "mainwindow/port_picker_dialog.h"
 #include "mainwindow/progress_window.h"
 #include "mainwindow/splash_screen.h"
+#include "persistence/backup_folder.h"
+#include "persistence/config_file.h"
+
+namespace {
+constexpr int kBackupNoteMs = 10000;
+}  // namespace
 
 void MainWindow::StatusRelay::showStatus(const StatusText& status) {
     const QString message = l10n::message(status.id, window_.doc_.language);
-    const QString suffix = status.text.startsWith(message) ? status.text.mid(message.size())
-                                                           : QString();
+    const QString suffix =
+        status.text.startsWith(message) ? status.text.mid(message.size()) : QString();
     window_.status_ = StatusText{status.id, suffix};
     window_.statusPanel_->setText(status.text);
     window_.prompts_.showStatus(status);
@@ -59,11 +66,17 @@ void MainWindow::WidgetSessionView::hideProgress() {
     window_.progress_->hide();
 }
 
-void MainWindow::WidgetSessionView::pauseStatusTimers() { window_.statusTimer_.stop(); }
+void MainWindow::WidgetSessionView::pauseStatusTimers() {
+    window_.statusTimer_.stop();
+}
 
-void MainWindow::WidgetSessionView::resumeStatusTimers() { window_.statusTimer_.start(); }
+void MainWindow::WidgetSessionView::resumeStatusTimers() {
+    window_.statusTimer_.start();
+}
 
-bool MainWindow::sessionRunning() const { return session_ && session_->isRunning(); }
+bool MainWindow::sessionRunning() const {
+    return session_ && session_->isRunning();
+}
 
 // The bar's range is the session's own: a read ends at 75 and a write at 156, and either should
 // end with the bar full.
@@ -73,8 +86,26 @@ void MainWindow::startRead() {
 }
 
 void MainWindow::startWrite() {
-    progress_->bar().setRange(0, (kSlotCount + 1) * WriteSession::kProgressPerRecord);
-    startSession(std::make_unique<WriteSession>(transport_, doc_, statusRelay_, sessionView_));
+    SafeWriteOptions safety;
+    safety.backup = backupAction_->isChecked();
+    safety.verify = verifyAction_->isChecked();
+    safety.backupFolder = backupFolder();
+    safety.portName = portControl_.comboText();
+    progress_->bar().setRange(0, WriteSession::progressGoal(safety));
+    auto session =
+        std::make_unique<WriteSession>(transport_, doc_, statusRelay_, sessionView_, safety);
+    connect(session.get(), &WriteSession::backupSaved, this, [this](const QString& path) {
+        statusBar()->showMessage(
+            l10n::safeWriteText(l10n::SafeWriteText::BackupSaved, doc_.language).arg(path),
+            kBackupNoteMs);
+    });
+    startSession(std::move(session));
+}
+
+void MainWindow::rememberSafeWrite() {
+    // A config.ini that cannot be written keeps the choice for this run only.
+    writeSafeWritePreferences(configPath_,
+                              {backupAction_->isChecked(), verifyAction_->isChecked()});
 }
 
 void MainWindow::startSession(std::unique_ptr<RadioSession> session) {
@@ -111,9 +142,9 @@ void MainWindow::closeEvent(QCloseEvent* event) {
     if (splash_) splash_->close();
     statusTimer_.stop();
     exitAction_->setChecked(true);  // the closing flag
-    const bool yes = prompts_.askYesNo(
-        {l10n::message(l10n::MessageId::MsgConfirmExit, doc_.language),
-         l10n::message(l10n::MessageId::MsgConfirmExitTitle, doc_.language)});
+    const bool yes =
+        prompts_.askYesNo({l10n::message(l10n::MessageId::MsgConfirmExit, doc_.language),
+                           l10n::message(l10n::MessageId::MsgConfirmExitTitle, doc_.language)});
     if (!yes) {
         event->ignore();
         exitAction_->setChecked(false);

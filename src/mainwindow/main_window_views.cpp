@@ -6,6 +6,7 @@
 #include <QPushButton>
 
 #include "l10n/error_texts.h"
+#include "l10n/safe_write_texts.h"
 #include "l10n/session_texts.h"
 #include "l10n/window_texts.h"
 #include "mainwindow/channel_grid_model.h"
@@ -67,6 +68,8 @@ void MainWindow::applyCaptions() {
     otherAction_->setText(caption(kMenuOther));
     modelMenu_->setTitle(caption(kMenuModel));
     traceAction_->setText(l10n::sessionText(l10n::SessionText::TraceMenuItem, language));
+    backupAction_->setText(l10n::safeWriteText(l10n::SafeWriteText::BackupMenuItem, language));
+    verifyAction_->setText(l10n::safeWriteText(l10n::SafeWriteText::VerifyMenuItem, language));
     programMenu_->setTitle(caption(kMenuProgram));
     readAction_->setText(caption(kMenuRead));
     writeAction_->setText(caption(kMenuWrite));

@@ -150,11 +150,19 @@ void SimRadio::handleRequest(quint8 command, const QByteArray& payload) {
             break;
         case kEndWrite:
             programmingEnded_ = true;
+            corruptStoredByte();
             break;
         default:
             answerService(command, payload);
             break;
     }
+}
+
+void SimRadio::corruptStoredByte() {
+    if (faults_.corruptChannel < 1 || faults_.corruptChannel > kChannelCount) return;
+    QByteArray& record = channels_[static_cast<size_t>(faults_.corruptChannel - 1)];
+    if (faults_.corruptOffset < 0 || faults_.corruptOffset >= record.size()) return;
+    record[faults_.corruptOffset] = static_cast<char>(record[faults_.corruptOffset] ^ 0x01);
 }
 
 void SimRadio::reply(quint8 command, const QByteArray& payload, int extraDelayMs) {
