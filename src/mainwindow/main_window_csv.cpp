@@ -43,6 +43,5 @@ void MainWindow::importCsv() {
         return;
     }
     history_->record([&] { doc_ = *read->document; });  // one undo step
-    applyCaptions();
     refreshDocumentViews();
 }

@@ -44,11 +44,8 @@ public:
         const auto first = std::find_if(rows_.begin(), rows_.end(),
                                         [](const CsvRow& row) { return !row.isBlank(); });
         if (first == rows_.end()) {
-            faults_.push_back(CellFault{1,
-                                        0,
-                                        QString(),
-                                        CellFaultKind::HeaderName,
-                                        {csv_format::channelHeader().join(QLatin1Char(','))}});
+            faultAt(1, 0, QString(), CellFaultKind::HeaderName,
+                    {csv_format::channelHeader().join(QLatin1Char(','))});
             return finish();
         }
         checkHeader(*first, csv_format::channelHeader());
@@ -57,7 +54,7 @@ public:
         });
         const int endRow = settingsHeader == rows_.end() ? rowAfterLast() : settingsHeader->number;
         if (settingsHeader == rows_.end()) {
-            faults_.push_back(CellFault{endRow, 0, QString(), CellFaultKind::SettingsMissing, {}});
+            faultAt(endRow, 0, QString(), CellFaultKind::SettingsMissing);
         } else {
             checkHeader(*settingsHeader, csv_format::settingHeader());
             readSettings(*settingsHeader, settingsHeader + 1);
@@ -71,7 +68,11 @@ private:
 
     void fault(const CsvRow& row, int column, const QString& name, CellFaultKind kind,
                QStringList args = {}) {
-        faults_.push_back(cellFault(row, column, name, kind, std::move(args)));
+        faultAt(row.number, column, name, kind, std::move(args));
+    }
+    void faultAt(int row, int column, const QString& name, CellFaultKind kind,
+                 QStringList args = {}) {
+        faults_.push_back(CellFault{row, column, name, kind, std::move(args)});
     }
 
     int rowAfterLast() const { return rows_.empty() ? 1 : rows_.back().number + 1; }
@@ -181,8 +182,8 @@ private:
         }
         for (int slot = 0; slot < kSlotCount; ++slot) {
             if (seen[slot]) continue;
-            faults_.push_back(CellFault{
-                endRow, 0, QString(), CellFaultKind::ChannelMissing, {QString::number(slot + 1)}});
+            faultAt(endRow, 0, QString(), CellFaultKind::ChannelMissing,
+                    {QString::number(slot + 1)});
         }
         checkActiveRun();
     }
@@ -190,6 +191,10 @@ private:
     // The active channels are 1 to chtot: one at least, and none after an inactive one. Each
     // gap is named once, at the first active channel after it.
     void checkActiveRun() {
+        const auto activeFault = [this](int slot, CellFaultKind kind, QStringList args) {
+            faultAt(slotRows_[slot], csv_format::Active + 1,
+                    csv_format::columnName(csv_format::Active), kind, std::move(args));
+        };
         bool afterInactive = false;
         bool anyActive = false;
         for (int slot = 0; slot < kSlotCount; ++slot) {
@@ -199,19 +204,11 @@ private:
             const bool gap = *active && afterInactive;
             afterInactive = !*active;
             if (gap) {
-                faults_.push_back(CellFault{slotRows_[slot],
-                                            csv_format::Active + 1,
-                                            csv_format::columnName(csv_format::Active),
-                                            CellFaultKind::ActiveAfterInactive,
-                                            {QString::number(slot + 1)}});
+                activeFault(slot, CellFaultKind::ActiveAfterInactive, {QString::number(slot + 1)});
             }
         }
         if (!anyActive && slotRows_[0] && slots_[0].active) {
-            faults_.push_back(CellFault{slotRows_[0],
-                                        csv_format::Active + 1,
-                                        csv_format::columnName(csv_format::Active),
-                                        CellFaultKind::NoActiveChannel,
-                                        {}});
+            activeFault(0, CellFaultKind::NoActiveChannel, {});
         }
     }
 

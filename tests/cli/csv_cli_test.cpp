@@ -9,17 +9,6 @@
 
 namespace {
 
-QByteArray contentOf(const QString& path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-void writeFile(const QString& path, const QByteArray& bytes) {
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(bytes);
-}
-
 class CsvCliTest : public ::testing::Test {
 protected:
     QString path(const char* name) const { return dir_.filePath(QLatin1String(name)); }
@@ -35,19 +24,19 @@ TEST_F(CsvCliTest, ACodeplugComesBackFromItsCsv) {
         SCOPED_TRACE(sample);
         const CliRun exported = run({"export-csv", samplePath(sample), path("plan.csv")});
         EXPECT_EQ(exported.status, 0) << exported.err.toStdString();
-        EXPECT_TRUE(contentOf(path("plan.csv")).startsWith("channel,active,rx_frequency,"));
+        EXPECT_TRUE(fileContent(path("plan.csv")).startsWith("channel,active,rx_frequency,"));
         const CliRun imported = run({"import-csv", path("plan.csv"), path("imported.qzv")});
         EXPECT_EQ(imported.status, 0) << imported.err.toStdString();
-        EXPECT_TRUE(contentOf(path("imported.qzv")).startsWith("[Rxfreq]\r\n"));
+        EXPECT_TRUE(fileContent(path("imported.qzv")).startsWith("[Rxfreq]\r\n"));
         // What the codeplug holds is what the CSV said, word for word.
         ASSERT_EQ(run({"export-csv", path("imported.qzv"), path("again.csv")}).status, 0);
-        EXPECT_EQ(contentOf(path("again.csv")), contentOf(path("plan.csv")));
+        EXPECT_EQ(fileContent(path("again.csv")), fileContent(path("plan.csv")));
     }
 }
 
 TEST_F(CsvCliTest, BadCellsAreAllListedAndNothingIsWritten) {
     ASSERT_EQ(run({"export-csv", samplePath("v18.qzv"), path("plan.csv")}).status, 0);
-    QStringList lines = QString::fromUtf8(contentOf(path("plan.csv"))).split("\r\n");
+    QStringList lines = QString::fromUtf8(fileContent(path("plan.csv"))).split("\r\n");
     const auto setCell = [&lines](int row, int column, const QString& cell) {
         QStringList fields = lines[row - 1].split(',');
         fields[column - 1] = cell;
@@ -56,12 +45,12 @@ TEST_F(CsvCliTest, BadCellsAreAllListedAndNothingIsWritten) {
     setCell(3, 3, "462.5625000");
     setCell(6, 5, "D024");  // no such code
     lines[9] += ",extra";
-    writeFile(path("bad.csv"), lines.join("\r\n").toUtf8());
-    writeFile(path("out.qzv"), "old");
+    writeFileContent(path("bad.csv"), lines.join("\r\n").toUtf8());
+    writeFileContent(path("out.qzv"), "old");
 
     const CliRun refused = run({"import-csv", path("bad.csv"), path("out.qzv")});
     EXPECT_EQ(refused.status, 2);
-    EXPECT_EQ(contentOf(path("out.qzv")), "old");
+    EXPECT_EQ(fileContent(path("out.qzv")), "old");
     const QStringList err = refused.err.trimmed().split('\n');
     ASSERT_EQ(err.size(), 4) << refused.err.toStdString();
     EXPECT_TRUE(
@@ -86,7 +75,7 @@ TEST_F(CsvCliTest, ExitStatusesLikeTheOtherCommands) {
         {{"import-csv", path("good.csv"), path("no/such/folder/a.qzv")}, 3},
         {{"import-csv", path("good.csv")}, 2},
     };
-    writeFile(path("empty.csv"), "");
+    writeFileContent(path("empty.csv"), "");
     ASSERT_EQ(run({"export-csv", samplePath("v13.qzv"), path("good.csv")}).status, 0);
     for (const auto& c : cases) {
         const CliRun result = run(c.arguments);

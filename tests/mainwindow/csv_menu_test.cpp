@@ -1,26 +1,15 @@
 // The File menu's CSV items: export writes the plan, import is one undo step, a bad file is
 // refused with every bad cell named.
 #include <QAction>
-#include <QFile>
 #include <QMenu>
 
 #include "persistence/csv_export.h"
+#include "persistence/file_access.h"
 #include "window_fixture.h"
 
 namespace {
 
 using Col = ChannelGridModel::Column;
-
-QByteArray contentOf(const QString& path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-void writeFile(const QString& path, const QByteArray& bytes) {
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(bytes);
-}
 
 TEST(CsvMenu, ExportWritesThePlanAndImportIsOneUndoStep) {
     WindowFixture f;
@@ -36,7 +25,9 @@ TEST(CsvMenu, ExportWritesThePlanAndImportIsOneUndoStep) {
     f.prompts.savePath = f.dir.filePath(QStringLiteral("plan"));  // the extension is added
     f.find<QAction>("MenuExportCsv")->trigger();
     const QString csv = f.dir.filePath(QStringLiteral("plan.csv"));
-    ASSERT_EQ(contentOf(csv), codeplugCsvBytes(f.window->document()));
+    const Result<QByteArray> written = readWholeFile(csv);
+    ASSERT_TRUE(written.ok());
+    EXPECT_EQ(written.value(), codeplugCsvBytes(f.window->document()));
 
     // A second window, in Chinese, takes the file in its own words.
     WindowFixture g(startupDocument(UiLanguage::Chinese));
@@ -58,7 +49,7 @@ TEST(CsvMenu, ABadFileChangesNothingAndEveryBadCellIsShown) {
     text.replace(QStringLiteral("\r\n1,yes,"), QStringLiteral("\r\n1,perhaps,"));
     text.replace(QStringLiteral(",narrow,"), QStringLiteral(",slim,"));
     const QString path = f.dir.filePath(QStringLiteral("bad.csv"));
-    writeFile(path, text.toUtf8());
+    ASSERT_TRUE(saveWholeFile(path, text.toUtf8()).ok());
     const Codeplug before = f.window->document();
 
     f.prompts.openPath = path;
