@@ -57,12 +57,12 @@ void addFilePairCommand(CLI::App& app, const GlobalOptions& global, CommandRunne
 
 void addCsvCommands(CLI::App& app, const GlobalOptions& global, CommandRunner& run) {
     addFilePairCommand(app, global, run, "export-csv",
-                       "write the channel plan and settings of a codeplug file of any layout as "
-                       "CSV (English words, one row per channel, the settings below)",
+                       "write a codeplug file of any layout as CSV: a row per channel, then the "
+                       "settings",
                        "codeplug file to read", "CSV file to write", exportCsv);
     addFilePairCommand(app, global, run, "import-csv",
-                       "check every cell of a CSV file and write it as a codeplug file in the "
-                       "current layout; with any bad cell, list them all and write nothing",
+                       "check a CSV file, then write it as a codeplug file; with bad cells, each "
+                       "is named and nothing is written",
                        "CSV file to read (either language's words)", "codeplug file to write",
                        importCsv);
 }
