@@ -2,6 +2,7 @@
 // refused with every bad cell named.
 #include <QAction>
 #include <QMenu>
+#include <QPushButton>
 
 #include "persistence/csv_export.h"
 #include "persistence/file_access.h"
@@ -67,6 +68,12 @@ TEST(CsvMenu, ABadFileChangesNothingAndEveryBadCellIsShown) {
     f.prompts.openPath.clear();  // cancelled: nothing at all
     f.find<QAction>("MenuImportCsv")->trigger();
     EXPECT_EQ(f.prompts.boxes.size(), 1u);
+
+    // A read would overwrite an import at once: none while it runs.
+    QTest::mouseClick(f.find<QPushButton>("Command2"), Qt::LeftButton);
+    EXPECT_FALSE(f.find<QAction>("MenuImportCsv")->isEnabled());
+    ASSERT_TRUE(f.waitFor([&] { return !f.window->sessionRunning(); }));
+    EXPECT_TRUE(f.find<QAction>("MenuImportCsv")->isEnabled());
 }
 
 }  // namespace
