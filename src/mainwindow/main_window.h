@@ -115,6 +115,13 @@ private:
     void openCustomToneDialog(int slot, CodeDirection direction);
     void openFile();
     void saveFile();
+    // The path to save to, with `suffix` added when it has none; before it is returned the grid's
+    // editor is closed and the cells redrawn, as saving shows them. Empty: cancelled.
+    QString chooseSavePath(const char* filter, const QString& suffix);
+
+    // CSV (main_window_csv.cpp).
+    void exportCsv();
+    void importCsv();
     void redrawStatus();
 
     // Ports (main_window_ports.cpp).
@@ -203,6 +210,8 @@ private:
     QMenu* languageMenu_ = nullptr;
     QAction* openAction_ = nullptr;
     QAction* saveAction_ = nullptr;
+    QAction* exportCsvAction_ = nullptr;
+    QAction* importCsvAction_ = nullptr;
     QAction* exitAction_ = nullptr;  // FormCancel; its check mark is the closing flag
     QAction* otherAction_ = nullptr;
     QAction* readAction_ = nullptr;

@@ -27,6 +27,11 @@ void MainWindow::buildMenus() {
     openAction_ = addNamedAction(fileMenu_, "MenuFileOpen");
     saveAction_ = addNamedAction(fileMenu_, "MenuSave");
     fileMenu_->addSeparator();
+    importCsvAction_ = addNamedAction(fileMenu_, "MenuImportCsv");
+    exportCsvAction_ = addNamedAction(fileMenu_, "MenuExportCsv");
+    connect(importCsvAction_, &QAction::triggered, this, &MainWindow::importCsv);
+    connect(exportCsvAction_, &QAction::triggered, this, &MainWindow::exportCsv);
+    fileMenu_->addSeparator();
     exitAction_ = addNamedAction(fileMenu_, "FormCancel");
     exitAction_->setCheckable(true);  // checked while the exit question is open
     connect(openAction_, &QAction::triggered, this, &MainWindow::openFile);
