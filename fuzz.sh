@@ -32,9 +32,10 @@ declare -A seeds=(
     [frame_parser]="$link/fuzz_regressions"
     [reply_decoder]="$link/fuzz_regressions"
     [boot_replies]="tests/bootloader/fuzz_regressions"
+    [csv_reader]="$persistence/csv_fuzz_regressions"
 )
 ((${#targets[@]})) || targets=(codeplug_reader legacy_layouts config_reader round_trip frame_parser
-                                reply_decoder boot_replies)
+                                reply_decoder boot_replies csv_reader)
 
 scripts/deps.sh clang libclang-rt-14-dev
 build=build-fuzz

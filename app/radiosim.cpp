@@ -10,6 +10,7 @@
 #include <cstdio>
 
 #include "common/signal_notifier.h"
+#include "link/protocol.h"
 #include "platform/steady_clock.h"
 #include "sim/pty_radio_host.h"
 #include "sim/sim_radio.h"
@@ -48,6 +49,7 @@ int main(int argc, char** argv) {
     int eraseMs = SimBootloader::kDefaultEraseMs;
     bool notInBootMode = false;
     int corruptReadBlock = 0;
+    std::string corruptStored;
     cli.set_version_flag("--version", "radiosim " RADIOPROG_VERSION);
     cli.add_flag("--pace", pace, "pace both directions at 9600 baud");
     cli.add_option("--latency", latency, "reply latency in ms")->check(CLI::Range(0, 60000));
@@ -57,13 +59,17 @@ int main(int argc, char** argv) {
     cli.add_option("--cut", cut, "replies cut after their command byte")->delimiter(',');
     cli.add_option("--wrong-length", wrongLength, "replies one byte too long")->delimiter(',');
     cli.add_option("--hang-up", hangUp,
-                   "drop the line when this request arrives (27: right after a write's closing E)");
+                   "drop the line when this request arrives (27: right after the closing E of a "
+                   "write without backup)");
     cli.add_flag("--noise", noise, "answer nothing and fill the line with random bytes");
     cli.add_option("--erase-ms", eraseMs, "time the boot loader takes to erase")
         ->check(CLI::Range(0, 60000));
     cli.add_flag("--not-in-boot-mode", notInBootMode, "the boot loader answers nothing");
     cli.add_option("--corrupt-read-block", corruptReadBlock,
                    "flip a bit in this block of every boot loader read (counted from 1)");
+    cli.add_option("--corrupt-stored", corruptStored,
+                   "CH:OFFSET: when a write ends, flip the lowest bit of byte OFFSET (from 0) of "
+                   "channel CH's record (from 1), so that a read back differs");
     cli.add_option("--trace", tracePath, "log every frame both ways as hex");
     CLI11_PARSE(cli, argc, argv);
 
@@ -88,6 +94,21 @@ int main(int argc, char** argv) {
     faults.noise = noise;
     faults.notInBootMode = notInBootMode;
     faults.corruptReadBlock = corruptReadBlock;
+    if (!corruptStored.empty()) {
+        const QStringList parts = QString::fromStdString(corruptStored).split(QLatin1Char(':'));
+        bool channelOk = false, offsetOk = false;
+        if (parts.size() == 2) {
+            faults.corruptChannel = parts[0].toInt(&channelOk);
+            faults.corruptOffset = parts[1].toInt(&offsetOk);
+        }
+        if (!channelOk || !offsetOk || faults.corruptChannel < 1 ||
+            faults.corruptChannel > SimRadio::kChannelCount || faults.corruptOffset < 0 ||
+            faults.corruptOffset >= protocol::kLongChannelRecord) {
+            std::fprintf(stderr,
+                         "radiosim: --corrupt-stored takes CH:OFFSET, CH 1..25, OFFSET 0..12\n");
+            return 2;
+        }
+    }
 
     SteadyClock clock;
     SimRadio radio(clock);

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# A full write and a full read through radioprog-cli against radiosim on a pseudo-terminal,
-# with the line paced at 9600 baud. For each it prints the wall time, the line floor (every
+# A full write, a safe write (backup read, write, verify read) and a full read through
+# radioprog-cli against radiosim on a pseudo-terminal, with the line paced at 9600 baud. For each it prints the wall time, the line floor (every
 # byte both ways at 9600 baud, 8N1, plus per answered request the larger of the 20 ms settle
 # and the radio's reply latency, plus the settle after the unanswered "E"), their ratio, and
 # the CPU time the command used.
@@ -23,6 +23,7 @@ done
 
 . bench/radiosim.sh
 start_radiosim --latency "$latency"
+export XDG_DATA_HOME=$work/data  # the safe write's backups
 
 # A plan to write: the simulated radio's own, read once through the in-process simulator.
 "$cli" --config "$work" read --port sim -o "$work/plan.qzv" >/dev/null 2>&1
@@ -56,8 +57,10 @@ report() {
 
 echo "radiosim on $device, 9600 baud pacing, reply latency $latency ms"
 for run in $(seq "$runs"); do
-    measure "$cli" --config "$work" write --port "$device" "$work/plan.qzv"
+    measure "$cli" --config "$work" write --no-backup --no-verify --port "$device" "$work/plan.qzv"
     report write
+    measure "$cli" --config "$work" write --port "$device" "$work/plan.qzv"
+    report safe
     measure "$cli" --config "$work" read --port "$device"
     report read
 done

@@ -34,6 +34,8 @@ using CommandRunner = std::function<int()>;
 
 void addShowCommand(CLI::App& app, const GlobalOptions& global, CommandRunner& run);
 void addConvertCommand(CLI::App& app, const GlobalOptions& global, CommandRunner& run);
+// export-csv and import-csv.
+void addCsvCommands(CLI::App& app, const GlobalOptions& global, CommandRunner& run);
 void addPortsCommand(CLI::App& app, const GlobalOptions& global, CommandRunner& run);
 void addReadCommand(CLI::App& app, const GlobalOptions& global, CommandRunner& run);
 void addWriteCommand(CLI::App& app, const GlobalOptions& global, CommandRunner& run);

@@ -54,6 +54,7 @@ int main(int argc, char** argv) {
     CommandRunner run;
     addShowCommand(app, global, run);
     addConvertCommand(app, global, run);
+    addCsvCommands(app, global, run);
     addPortsCommand(app, global, run);
     addReadCommand(app, global, run);
     addWriteCommand(app, global, run);

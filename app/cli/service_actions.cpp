@@ -4,6 +4,7 @@
 #include <cstdio>
 #include <map>
 
+#include "cli/board_actions.h"
 #include "cli/file_arguments.h"
 #include "cli/radio_command.h"
 #include "cli/service_console.h"
@@ -209,6 +210,7 @@ std::optional<QStringList> adjustValues(const std::vector<Assignment>& values) {
 }  // namespace
 
 int runServiceAction(const GlobalOptions& global, const ServiceRequest& request) {
+    if (isBoardPanel(request.panel)) return runBoardAction(global, request);
     const std::optional<PortArgument> port = parsePortOption(request.port);
     if (!port) return kExitBadInput;
     const UiLanguage language = global.startupCodeplug().language;

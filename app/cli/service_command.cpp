@@ -51,6 +51,21 @@ const std::vector<PanelSpec>& panels() {
          "the RF crystal correction, -127..127",
          {{"read", "read the correction", nullptr, false},
           {"write", "write a correction", "VALUE or crystal=VALUE", false}}},
+        {"hardware",
+         "the board options: the PTT key's pin and the P key's threshold voltage",
+         {{"read", "read the two options", nullptr, false},
+          {"write", "write the options named (the other as the radio holds it)",
+           "ptt=P2.4|P2.1 pkey=VOLTS", false}}},
+        {"volume",
+         "the volume table: microphone gain, eight speaker steps, second microphone gain",
+         {{"read", "read the table", nullptr, false},
+          {"write", "write the values named (the others as the radio holds them)",
+           "NAME=VALUE lines as a read prints them", false}}},
+        {"player",
+         "the audio player's eight volume steps",
+         {{"read", "read the table", nullptr, false},
+          {"write", "write the values named (the others as the radio holds them)",
+           "NAME=VALUE lines as a read prints them", false}}},
     };
     return kPanels;
 }
@@ -66,6 +81,12 @@ back unchanged, e.g. `service --port COM3 crystal write $(cat crystal.txt)`.
                rssiN                        0..255 (rows 1..15 are 400.025 ... 470.025 MHz;
                                             a read gives those, rows 16..20 are written as 0)
   crystal      crystal                      -127..127
+  hardware     ptt                          P2.4 or P2.1
+               pkey                         2.40 2.30 2.20 2.10 2.00 1.90 1.80 1.70 1.60 1.50
+                                            1.20 (volts; a read shows nothing when the radio
+                                            holds a threshold outside this list)
+  volume       mic vol1 ... vol8 pmic       0..255 (the sliders span 1..63)
+  player       vol1 ... vol8                0..255 (the sliders span 1..31)
 -o FILE saves what was read as the panel's text file (registers: 20 lines, address and value
 of each row; band: 60 lines, the TX, RX and RSSI columns of rows 1..20); a write takes it back.
 Values that do not fit are refused before anything is sent, naming the field. Messages go to
@@ -76,7 +97,9 @@ refused, 2 on bad usage or an unreadable file.)";
 
 void addServiceCommand(CLI::App& app, const GlobalOptions& global, CommandRunner& run) {
     CLI::App* service = app.add_subcommand(
-        "service", "the factory service panels: RF registers, calibration, band table, crystal");
+        "service",
+        "the factory service panels: RF registers, calibration, band table, crystal, "
+        "hardware options, volume tables");
     auto request = std::make_shared<ServiceRequest>();
     service->add_option("--port", request->port, "COMn, a device path, or sim")->required();
     addTraceOption(service, request->trace);

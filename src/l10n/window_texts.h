@@ -37,8 +37,9 @@ inline constexpr const char* kPortPickerChoose = "选择";
 inline constexpr const char* kCustomToneTitle = "CTCSS";
 inline constexpr const char* kCustomToneOk = "OK";
 
-// File dialogs: codeplug files.
+// File dialogs: codeplug files and CSV files.
 inline constexpr const char* kCodeplugFilter = "*.qzv (*.qzv)";
+inline constexpr const char* kCsvFilter = "*.csv (*.csv)";
 
 // The boot loader window.
 inline constexpr const char* kBootWindowTitle = "在线编程（UART）";

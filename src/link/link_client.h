@@ -20,6 +20,13 @@ public:
         all.lengths_.set();
         return all;
     }
+    // For records the requester reads from the start, whatever the radio adds after them.
+    static ReplyLengths atLeast(int shortest) {
+        ReplyLengths lengths = any();
+        for (int length = 0; length < shortest; ++length)
+            lengths.lengths_.reset(static_cast<size_t>(length));
+        return lengths;
+    }
     bool accepts(int length) const {
         return length >= 0 && length < static_cast<int>(lengths_.size()) &&
                lengths_.test(static_cast<size_t>(length));

@@ -20,23 +20,6 @@ constexpr int kInvertedOffset = 105;
 
 constexpr int kMaxStepCount = 32767;
 
-// The settings record: S0 and S1 hold one bit per two-way setting. S0 always carries 0x13;
-// the band is S1's low two bits, added as a number.
-constexpr int kS0Always = 0x13;
-struct SettingBit {
-    SettingKey key;
-    int byte;  // 0: S0, 1: S1
-    int mask;
-};
-constexpr SettingBit kSettingBits[] = {
-    {SettingKey::normalmode, 0, 0x40}, {SettingKey::txen, 0, 0x80},
-    {SettingKey::busytxdis, 0, 0x04},  {SettingKey::dtmfen, 0, 0x20},
-    {SettingKey::bluetooth, 0, 0x08},  {SettingKey::voicebrc, 1, 0x80},
-    {SettingKey::sos, 1, 0x10},        {SettingKey::fm, 1, 0x04},
-    {SettingKey::autolock, 1, 0x08},   {SettingKey::tot, 1, 0x40},
-    {SettingKey::agingtest, 1, 0x20},
-};
-
 bool isSet(int value, int mask) {
     return (value & mask) != 0;
 }
@@ -97,7 +80,7 @@ QByteArray encode_settings(const Codeplug& doc) {
     const RadioSettings& s = doc.settings;
     // Band numbers outside 0..3 count as band 3 everywhere else, so they do here too.
     const int band = s[SettingKey::freqband];
-    int record[2] = {kS0Always, band >= 0 && band <= 3 ? band : 3};
+    int record[2] = {kSettingsFixedBits, band >= 0 && band <= 3 ? band : 3};
     // Only an index of exactly 1 sets a bit: an out-of-range index writes 0.
     for (const SettingBit& bit : kSettingBits) record[bit.byte] += bitIf(s[bit.key] == 1, bit.mask);
     const int s2 = boundedInt(numericValue(doc.chtot), 0, 0xFF);

@@ -10,6 +10,24 @@
 // The radio's memory image: the 4-byte settings record and the 11- or 13-byte channel record,
 // and their conversion to and from the document. Records are big-endian.
 
+// The settings record: S0 and S1 hold one bit per two-way setting, S0 three bits that are
+// always set, S1 the band in its low two bits, S2 the channel count.
+struct SettingBit {
+    SettingKey key;
+    int byte;  // 0: S0, 1: S1
+    int mask;
+};
+inline constexpr SettingBit kSettingBits[] = {
+    {SettingKey::normalmode, 0, 0x40}, {SettingKey::txen, 0, 0x80},
+    {SettingKey::busytxdis, 0, 0x04},  {SettingKey::dtmfen, 0, 0x20},
+    {SettingKey::bluetooth, 0, 0x08},  {SettingKey::voicebrc, 1, 0x80},
+    {SettingKey::sos, 1, 0x10},        {SettingKey::fm, 1, 0x04},
+    {SettingKey::autolock, 1, 0x08},   {SettingKey::tot, 1, 0x40},
+    {SettingKey::agingtest, 1, 0x20},
+};
+inline constexpr int kSettingsFixedBits = 0x13;
+inline constexpr int kSettingsBandMask = 0x03;
+
 // "X" request frame (9 bytes) from the settings and chtot: block 0, sub 0, S0..S3.
 QByteArray encode_settings(const Codeplug& doc);
 

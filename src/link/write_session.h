@@ -1,13 +1,29 @@
 #pragma once
 
+#include <QDateTime>
+#include <QList>
 #include <optional>
 
 #include "link/radio_session.h"
+#include "link/record_reader.h"
 #include "model/notice.h"
+
+// What a write does around the records it sends: a backup of the radio's plan before the first
+// of them, and a read back after the last one, compared with what was sent.
+struct SafeWriteOptions {
+    bool backup = false;
+    bool verify = false;
+    QString backupFolder;  // where the backup file goes (made when missing)
+    QString portName;      // part of the backup file's name
+};
 
 // Writing the document into the radio: the frequency checks first (nothing is sent when one
 // fails), then the settings record "X" (three attempts, 5 s each), the 25 channel records "W"
 // (one attempt each) and the closing "E", which is not answered.
+//
+// With a backup, the radio's settings and channels are read first, as a read does, and saved as
+// a codeplug file; when that fails nothing is written. With a verify, the records are read back
+// after the "E" and compared with those sent; a difference fails the write and is named.
 class WriteSession : public RadioSession {
     Q_OBJECT
 
@@ -20,6 +36,11 @@ public:
 
     WriteSession(LinkTransport& transport, Codeplug& doc, Prompts& prompts, SessionView& view,
                  QObject* parent = nullptr);
+    WriteSession(LinkTransport& transport, Codeplug& doc, Prompts& prompts, SessionView& view,
+                 SafeWriteOptions options, QObject* parent = nullptr);
+
+    // Where the progress bar stands at the end of a write with these options.
+    static int progressGoal(const SafeWriteOptions& options);
 
     // The write command. False when it could not start (a check failed, link busy).
     bool start() override;
@@ -39,14 +60,30 @@ public:
     void exchangeFailed(const LinkFailure& failure) override;
     void sendFinished() override;
 
-private:
-    enum class Step { Idle, Opening, Channels, Finishing };
+Q_SIGNALS:
+    // The backup has been saved, before anything is written; `unreadChannels` (1-based) could
+    // not be read and are empty in it.
+    void backupSaved(const QString& path, const QList<int>& unreadChannels);
 
+private:
+    enum class Step { Idle, Backup, Opening, Channels, Finishing, Verify };
+
+    void startWriting();
     void sendSettings();
     void sendChannel();
     void finish_write();
     void errorEnd();
+    void backupRead(const std::optional<RecordReadStop>& stop);
+    void verifyRead(const std::optional<RecordReadStop>& stop);
+    void successEnd();
+    // Ends the session with a warning box; the write failed.
+    void failWith(const QString& text, SessionOutcome outcome);
+    QString whyStopped(const RecordReadStop& stop) const;
+    bool reading() const { return step_ == Step::Backup || step_ == Step::Verify; }
 
+    SafeWriteOptions options_;
+    RecordReader reader_;
+    RadioRecords written_;
     Step step_ = Step::Idle;
     int channel_ = 0;  // ChannelCounter
 };

@@ -21,10 +21,12 @@
 #include "mainwindow/splash_screen.h"
 #include "service/ui/calibration_window.h"
 #include "service/ui/crystal_window.h"
+#include "service/ui/hardware_window.h"
 #include "service/ui/identity_window.h"
 #include "service/ui/register_window.h"
 #include "service/ui/show_once.h"
 #include "service/ui/test_mode_window.h"
+#include "service/ui/volume_window.h"
 
 using service_ui::showOnce;
 
@@ -123,6 +125,9 @@ MainWindow::~MainWindow() {
     // And the engineering windows, whose panels give up their requests on the channel.
     delete crystalWindow_;
     delete registerWindow_;
+    delete hardwareWindow_;
+    delete volumeWindow_;
+    delete playerWindow_;
     delete identityWindow_;
     delete testModeWindow_;
     transport_.setTrace(nullptr);
@@ -176,7 +181,6 @@ void MainWindow::openRegisterWindow() {
 void MainWindow::openIdentityWindow() {
     serviceChannel_.setLanguage(doc_.language);
     showOnce(identityWindow_, this, serviceChannel_);
-    identityWindow_->retranslate();
 }
 
 void MainWindow::openTestModeWindow() {
@@ -187,6 +191,21 @@ void MainWindow::openTestModeWindow() {
 void MainWindow::openCalibrationWindow() {
     serviceChannel_.setLanguage(doc_.language);
     showOnce(calibrationWindow_, this, serviceChannel_, prompts_);
+}
+
+void MainWindow::openHardwareWindow() {
+    serviceChannel_.setLanguage(doc_.language);
+    showOnce(hardwareWindow_, this, serviceChannel_);
+}
+
+void MainWindow::openVolumeWindow() {
+    serviceChannel_.setLanguage(doc_.language);
+    showOnce(volumeWindow_, this, serviceChannel_);
+}
+
+void MainWindow::openPlayerWindow() {
+    serviceChannel_.setLanguage(doc_.language);
+    showOnce(playerWindow_, this, serviceChannel_);
 }
 
 void MainWindow::startUp(const std::optional<int>& portToSelect) {

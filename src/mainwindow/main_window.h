@@ -28,8 +28,11 @@ class QPushButton;
 class BootLoaderWindow;
 class CalibrationWindow;
 class CrystalWindow;
+class HardwareWindow;
 class IdentityWindow;
+class PlayerWindow;
 class TestModeWindow;
+class VolumeWindow;
 class RegisterWindow;
 class ChannelGridModel;
 class DocumentHistory;
@@ -114,6 +117,13 @@ private:
     void openCustomToneDialog(int slot, CodeDirection direction);
     void openFile();
     void saveFile();
+    // The path to save to, with `suffix` added when it has none; before it is returned the grid's
+    // editor is closed and the cells redrawn, as saving shows them. Empty: cancelled.
+    QString chooseSavePath(const char* filter, const QString& suffix);
+
+    // CSV (main_window_csv.cpp).
+    void exportCsv();
+    void importCsv();
     void redrawStatus();
 
     // Ports (main_window_ports.cpp).
@@ -132,9 +142,14 @@ private:
     void openCalibrationWindow();
     void openCrystalWindow();
     void openRegisterWindow();
+    void openHardwareWindow();
+    void openVolumeWindow();
+    void openPlayerWindow();
     void openIdentityWindow();
     void openTestModeWindow();
     void startWrite();
+    // The Setup menu's backup and verify items, written to config.ini.
+    void rememberSafeWrite();
     void startSession(std::unique_ptr<RadioSession> session);
     void sessionFinished();
     void progressClosedByUser();
@@ -167,6 +182,9 @@ private:
     QPointer<CalibrationWindow> calibrationWindow_;
     QPointer<CrystalWindow> crystalWindow_;
     QPointer<RegisterWindow> registerWindow_;
+    QPointer<HardwareWindow> hardwareWindow_;
+    QPointer<VolumeWindow> volumeWindow_;
+    QPointer<PlayerWindow> playerWindow_;
     QPointer<IdentityWindow> identityWindow_;
     QPointer<TestModeWindow> testModeWindow_;
 
@@ -198,6 +216,8 @@ private:
     QMenu* languageMenu_ = nullptr;
     QAction* openAction_ = nullptr;
     QAction* saveAction_ = nullptr;
+    QAction* exportCsvAction_ = nullptr;
+    QAction* importCsvAction_ = nullptr;
     QAction* exitAction_ = nullptr;  // FormCancel; its check mark is the closing flag
     QAction* otherAction_ = nullptr;
     QAction* readAction_ = nullptr;
@@ -206,7 +226,9 @@ private:
     QAction* audioTestAction_ = nullptr;
     QAction* testModeAction_ = nullptr;
     QAction* identityAction_ = nullptr;
-    QAction* traceAction_ = nullptr;  // "Trace to file…"
+    QAction* traceAction_ = nullptr;   // "Trace to file…"
+    QAction* backupAction_ = nullptr;  // "Backup before write"
+    QAction* verifyAction_ = nullptr;  // "Verify after write"
     std::unique_ptr<QFile> traceFile_;
     std::unique_ptr<LinkTrace> trace_;
     QAction* chineseAction_ = nullptr;

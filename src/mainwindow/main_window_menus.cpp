@@ -3,6 +3,7 @@
 
 #include "l10n/window_texts.h"
 #include "mainwindow/main_window.h"
+#include "persistence/config_file.h"
 
 // The menu bar as the program always had it; captions come with the language (applyCaptions).
 
@@ -25,6 +26,11 @@ void MainWindow::buildMenus() {
     fileMenu_->setObjectName(QStringLiteral("MenuFile"));
     openAction_ = addNamedAction(fileMenu_, "MenuFileOpen");
     saveAction_ = addNamedAction(fileMenu_, "MenuSave");
+    fileMenu_->addSeparator();
+    importCsvAction_ = addNamedAction(fileMenu_, "MenuImportCsv");
+    exportCsvAction_ = addNamedAction(fileMenu_, "MenuExportCsv");
+    connect(importCsvAction_, &QAction::triggered, this, &MainWindow::importCsv);
+    connect(exportCsvAction_, &QAction::triggered, this, &MainWindow::exportCsv);
     fileMenu_->addSeparator();
     exitAction_ = addNamedAction(fileMenu_, "FormCancel");
     exitAction_->setCheckable(true);  // checked while the exit question is open
@@ -71,6 +77,17 @@ void MainWindow::buildMenus() {
     traceAction_ = addNamedAction(setupMenu_, "TraceToFile");
     traceAction_->setCheckable(true);
     connect(traceAction_, &QAction::toggled, this, &MainWindow::traceToFile);
+    // Both on unless config.ini says otherwise; a change is remembered there.
+    const SafeWritePreferences safety = readSafeWritePreferences(configPath_);
+    backupAction_ = addNamedAction(setupMenu_, "BackupBeforeWrite");
+    verifyAction_ = addNamedAction(setupMenu_, "VerifyAfterWrite");
+    backupAction_->setCheckable(true);
+    backupAction_->setChecked(safety.backup);
+    verifyAction_->setCheckable(true);
+    verifyAction_->setChecked(safety.verify);
+    for (QAction* item : {backupAction_, verifyAction_}) {
+        connect(item, &QAction::toggled, this, &MainWindow::rememberSafeWrite);
+    }
     setupMenu_->addSeparator();
 
     programMenu_ = menuBar()->addMenu(QString());
@@ -87,6 +104,7 @@ void MainWindow::buildMenus() {
     connect(engineeringAction_, &QAction::triggered, this, &MainWindow::openCalibrationWindow);
     programMenu_->addSeparator();
     audioTestAction_ = addNamedAction(programMenu_, "ypcs");
+    connect(audioTestAction_, &QAction::triggered, this, &MainWindow::openVolumeWindow);
     programMenu_->addSeparator();
     testModeAction_ = addNamedAction(programMenu_, "csms");
     connect(testModeAction_, &QAction::triggered, this, &MainWindow::openTestModeWindow);
@@ -101,6 +119,10 @@ void MainWindow::buildMenus() {
             connect(item, &QAction::triggered, this, &MainWindow::openCrystalWindow);
         } else if (QLatin1String(name) == QLatin1String("RFReg_Test")) {
             connect(item, &QAction::triggered, this, &MainWindow::openRegisterWindow);
+        } else if (QLatin1String(name) == QLatin1String("yjx")) {
+            connect(item, &QAction::triggered, this, &MainWindow::openHardwareWindow);
+        } else if (QLatin1String(name) == QLatin1String("mp3")) {
+            connect(item, &QAction::triggered, this, &MainWindow::openPlayerWindow);
         } else {
             item->setEnabled(false);
         }
@@ -112,7 +134,6 @@ void MainWindow::buildMenus() {
     QAction* bootLoader = addNamedAction(programMenu_, "prg");
     bootLoader->setText(fixedText(l10n::fixed::kBootLoaderItem));
     connect(bootLoader, &QAction::triggered, this, &MainWindow::openBootLoader);
-    audioTestAction_->setEnabled(false);
 
     languageMenu_ = menuBar()->addMenu(QString());
     languageMenu_->setObjectName(QStringLiteral("lang"));

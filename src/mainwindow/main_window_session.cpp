@@ -7,6 +7,7 @@
 #include <QPushButton>
 #include <QStatusBar>
 
+#include "l10n/safe_write_texts.h"
 #include "link/read_session.h"
 #include "link/write_session.h"
 #include "mainwindow/channel_grid_view.h"
@@ -15,6 +16,12 @@
 #include "mainwindow/port_picker_dialog.h"
 #include "mainwindow/progress_window.h"
 #include "mainwindow/splash_screen.h"
+#include "persistence/backup_folder.h"
+#include "persistence/config_file.h"
+
+namespace {
+constexpr int kBackupNoteMs = 10000;
+}  // namespace
 
 void MainWindow::StatusRelay::showStatus(const StatusText& status) {
     const QString message = l10n::message(status.id, window_.doc_.language);
@@ -39,9 +46,10 @@ void MainWindow::WidgetSessionView::setSessionButtonsEnabled(bool enabled) {
     window_.portList_->setEnabled(enabled);
     window_.scanButton_->setEnabled(enabled);
     window_.portMenu_->setEnabled(enabled);
-    // A step back while a read fills the grid would be overwritten at once.
+    // A step back or an import while a read fills the grid would be overwritten at once.
     window_.undoAction_->setEnabled(enabled);
     window_.redoAction_->setEnabled(enabled);
+    window_.importCsvAction_->setEnabled(enabled);
 }
 
 void MainWindow::WidgetSessionView::showProgress(const QString& caption) {
@@ -79,8 +87,26 @@ void MainWindow::startRead() {
 }
 
 void MainWindow::startWrite() {
-    progress_->bar().setRange(0, (kSlotCount + 1) * WriteSession::kProgressPerRecord);
-    startSession(std::make_unique<WriteSession>(transport_, doc_, statusRelay_, sessionView_));
+    SafeWriteOptions safety;
+    safety.backup = backupAction_->isChecked();
+    safety.verify = verifyAction_->isChecked();
+    safety.backupFolder = backupFolder();
+    safety.portName = portControl_.comboText();
+    progress_->bar().setRange(0, WriteSession::progressGoal(safety));
+    auto session =
+        std::make_unique<WriteSession>(transport_, doc_, statusRelay_, sessionView_, safety);
+    connect(session.get(), &WriteSession::backupSaved, this, [this](const QString& path) {
+        statusBar()->showMessage(
+            l10n::safeWriteText(l10n::SafeWriteText::BackupSaved, doc_.language).arg(path),
+            kBackupNoteMs);
+    });
+    startSession(std::move(session));
+}
+
+void MainWindow::rememberSafeWrite() {
+    // A config.ini that cannot be written keeps the choice for this run only.
+    writeSafeWritePreferences(configPath_,
+                              {backupAction_->isChecked(), verifyAction_->isChecked()});
 }
 
 void MainWindow::startSession(std::unique_ptr<RadioSession> session) {

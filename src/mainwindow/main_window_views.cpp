@@ -5,7 +5,9 @@
 #include <QMenu>
 #include <QPushButton>
 
+#include "l10n/csv_texts.h"
 #include "l10n/error_texts.h"
+#include "l10n/safe_write_texts.h"
 #include "l10n/session_texts.h"
 #include "l10n/window_texts.h"
 #include "mainwindow/channel_grid_model.h"
@@ -16,7 +18,6 @@
 #include "model/presets.h"
 #include "persistence/codeplug_file.h"
 #include "persistence/config_file.h"
-#include "service/ui/identity_window.h"
 
 namespace {
 
@@ -61,6 +62,8 @@ void MainWindow::applyCaptions() {
     fileMenu_->setTitle(caption(kMenuFile));
     openAction_->setText(caption(kMenuOpen));
     saveAction_->setText(caption(kMenuSave));
+    importCsvAction_->setText(l10n::importCsvMenuItem(language));
+    exportCsvAction_->setText(l10n::exportCsvMenuItem(language));
     exitAction_->setText(caption(kMenuExit));
     setupMenu_->setTitle(caption(kMenuSetup));
     portMenu_->setTitle(caption(kMenuPort));
@@ -68,6 +71,8 @@ void MainWindow::applyCaptions() {
     otherAction_->setText(caption(kMenuOther));
     modelMenu_->setTitle(caption(kMenuModel));
     traceAction_->setText(l10n::sessionText(l10n::SessionText::TraceMenuItem, language));
+    backupAction_->setText(l10n::safeWriteText(l10n::SafeWriteText::BackupMenuItem, language));
+    verifyAction_->setText(l10n::safeWriteText(l10n::SafeWriteText::VerifyMenuItem, language));
     programMenu_->setTitle(caption(kMenuProgram));
     readAction_->setText(caption(kMenuRead));
     writeAction_->setText(caption(kMenuWrite));
@@ -136,7 +141,6 @@ void MainWindow::switchLanguage(UiLanguage language) {
     applyLanguage(doc_, language);
     portControl_.setLanguage(language);
     serviceChannel_.setLanguage(language);  // the engineering window's captions follow
-    if (identityWindow_) identityWindow_->retranslate();
     applyCaptions();
     refreshDocumentViews();
     refreshPortViews();
@@ -212,12 +216,18 @@ void MainWindow::openFile() {
     statusTimer_.start();
 }
 
-void MainWindow::saveFile() {
-    QString path = prompts_.chooseSaveFile(QString::fromUtf8(l10n::fixed::kCodeplugFilter));
-    if (path.isEmpty()) return;
-    if (QFileInfo(path).suffix().isEmpty()) path += QStringLiteral(".qzv");
+QString MainWindow::chooseSavePath(const char* filter, const QString& suffix) {
+    QString path = prompts_.chooseSaveFile(QString::fromUtf8(filter));
+    if (path.isEmpty()) return path;
+    if (QFileInfo(path).suffix().isEmpty()) path += suffix;
     closeGridEditor();
     history_->record([this] { RESET_TEXT(doc_); });
+    return path;
+}
+
+void MainWindow::saveFile() {
+    const QString path = chooseSavePath(l10n::fixed::kCodeplugFilter, QStringLiteral(".qzv"));
+    if (path.isEmpty()) return;
     if (const Result<void> saved = WriteSaveFile(doc_, path); !saved) {
         statusRelay_.showMessage(
             warningBox(l10n::describeError(saved.error(), doc_.language), doc_.language));

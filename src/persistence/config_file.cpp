@@ -143,15 +143,46 @@ Result<void> WriteConfigFile(const QString& configPath, const QString& key, UiLa
     if (key.compare(kLang, Qt::CaseInsensitive) != 0) {
         return Error::inFile(ErrorKind::CannotWrite, configPath);
     }
-    PrivateProfile profile;
-    if (QFileInfo::exists(configPath)) {
-        // A file that cannot be read is not replaced by one holding the language alone.
-        const Result<QByteArray> content = readWholeFile(configPath);
-        if (!content) return content.error();
-        profile = PrivateProfile::fromText(decodeFileText(*content));
-    }
-    profile.write(kConfigSection, kLang, configTextOf(language));
-    return saveConfig(configPath, profile);
+    // A file that cannot be read is not replaced by one holding the language alone.
+    Result<PrivateProfile> profile = readProfile(configPath);
+    if (!profile) return profile.error();
+    profile.value().write(kConfigSection, kLang, configTextOf(language));
+    return saveConfig(configPath, *profile);
+}
+
+namespace {
+
+const QString kSafeWriteSection = QStringLiteral("safewrite");
+const QString kBackupKey = QStringLiteral("backup");
+const QString kVerifyKey = QStringLiteral("verify");
+
+QString yesNo(bool on) {
+    return on ? QStringLiteral("yes") : QStringLiteral("no");
+}
+
+}  // namespace
+
+SafeWritePreferences readSafeWritePreferences(const QString& configPath) {
+    SafeWritePreferences preferences;
+    const Result<PrivateProfile> profile = readProfile(configPath);
+    if (!profile) return preferences;
+    auto on = [&](const QString& key) {
+        return profile->readString(kSafeWriteSection, key, yesNo(true))
+                   .trimmed()
+                   .compare(yesNo(false), Qt::CaseInsensitive) != 0;
+    };
+    preferences.backup = on(kBackupKey);
+    preferences.verify = on(kVerifyKey);
+    return preferences;
+}
+
+Result<void> writeSafeWritePreferences(const QString& configPath,
+                                       const SafeWritePreferences& preferences) {
+    Result<PrivateProfile> profile = readProfile(configPath);
+    if (!profile) return profile.error();
+    profile.value().write(kSafeWriteSection, kBackupKey, yesNo(preferences.backup));
+    profile.value().write(kSafeWriteSection, kVerifyKey, yesNo(preferences.verify));
+    return saveConfig(configPath, *profile);
 }
 
 QString configFilePathIn(const QString& overrideDir, const QString& programDir,

@@ -43,6 +43,18 @@ QMap<int, QString> readPortPins(const QString& configPath);
 // key is ignored and gives a CannotWrite error, as a file that cannot be read or saved does.
 Result<void> WriteConfigFile(const QString& configPath, const QString& key, UiLanguage language);
 
+// The [safewrite] section: whether a write backs the radio up first (backup=yes) and reads it
+// back afterwards (verify=yes). Both are on unless the file says "no".
+struct SafeWritePreferences {
+    bool backup = true;
+    bool verify = true;
+};
+SafeWritePreferences readSafeWritePreferences(const QString& configPath);
+// Writes the section and leaves every other line as it was; a file that exists but cannot be
+// read is not replaced.
+Result<void> writeSafeWritePreferences(const QString& configPath,
+                                       const SafeWritePreferences& preferences);
+
 // Where config.ini lives: `overrideDir` when given (--config), else the program's folder when it
 // is writable, else the per-user configuration folder.
 QString configFilePath(const QString& overrideDir = QString());

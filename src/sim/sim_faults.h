@@ -17,6 +17,10 @@ struct SimFaults {
     // bit flipped in the k-th block of a read (counted from 1 after each start of read).
     bool notInBootMode = false;
     int corruptReadBlock = 0;
+    // When a write ends ("E"), the lowest bit of byte `corruptOffset` (from 0) of the record
+    // stored for channel `corruptChannel` (from 1; 0: never) flips, as a failing flash cell would.
+    int corruptChannel = 0;
+    int corruptOffset = 0;
 
     bool silentFor(int request) const { return silentAlways || noise || silent.contains(request); }
 };

@@ -122,12 +122,9 @@ void SimRadio::handleRequest(quint8 command, const QByteArray& payload) {
     }
     // A request the radio does not hear changes nothing.
     if (faults_.silentFor(request)) return;
-    if (command != service::kMonitor) production_.interrupt();
-    if (production_.monitorMode() == 0) {
-        // Measurements not yet on the line stay unsent once the monitor has ended.
-        pending_.erase(std::remove_if(pending_.begin(), pending_.end(),
-                                      [](const PendingReply& p) { return p.note == kMonitorNote; }),
-                       pending_.end());
+    if (command != service::kMonitor) {
+        production_.interrupt();
+        dropStaleMeasurements();
     }
 
     if (SimBootloader::handles(command)) {
@@ -165,11 +162,19 @@ void SimRadio::handleRequest(quint8 command, const QByteArray& payload) {
             break;
         case kEndWrite:
             programmingEnded_ = true;
+            corruptStoredByte();
             break;
         default:
             answerService(command, payload);
             break;
     }
+}
+
+void SimRadio::corruptStoredByte() {
+    if (faults_.corruptChannel < 1 || faults_.corruptChannel > kChannelCount) return;
+    QByteArray& record = channels_[static_cast<size_t>(faults_.corruptChannel - 1)];
+    if (faults_.corruptOffset < 0 || faults_.corruptOffset >= record.size()) return;
+    record[faults_.corruptOffset] = static_cast<char>(record[faults_.corruptOffset] ^ 0x01);
 }
 
 void SimRadio::reply(quint8 command, const QByteArray& payload, int extraDelayMs) {
@@ -198,6 +203,7 @@ void SimRadio::reply(quint8 command, const QByteArray& payload, int extraDelayMs
 
 void SimRadio::answerService(quint8 command, const QByteArray& payload) {
     std::optional<SimService::Answer> answer = production_.answer(command, payload);
+    dropStaleMeasurements();
     if (!answer) answer = service_.answer(command, payload);
     if (!answer) return;
     switch (answer->kind) {
@@ -212,6 +218,14 @@ void SimRadio::answerService(quint8 command, const QByteArray& payload) {
             queue(answer->bytes, {});
             return;
     }
+}
+
+void SimRadio::dropStaleMeasurements() {
+    if (production_.monitorMode() != 0) return;
+    // Measurements not yet on the line stay unsent once the monitor has ended.
+    pending_.erase(std::remove_if(pending_.begin(), pending_.end(),
+                                  [](const PendingReply& p) { return p.note == kMonitorNote; }),
+                   pending_.end());
 }
 
 void SimRadio::queue(const QByteArray& bytes, const QString& note, int extraDelayMs) {

@@ -17,7 +17,8 @@
 // records in its memory and answers the programming requests after a reply latency.
 //   "S" -> the settings record, "R" block i -> channel record i,
 //   "X" -> takes the settings record,  "W" block i -> takes channel record i (11 or 13 bytes),
-//   both acknowledged with an empty frame; "E" ends programming and gets no reply.
+//   both acknowledged with an empty frame; "E" ends programming and gets no reply (and is when
+//   a stored byte goes bad, if the faults say so).
 // Replies carrying records use the command byte 'D' (0x44), acknowledgements 'A' (0x41).
 // The engineering panels' requests go to its service side (SimService), which answers with a
 // record, an acknowledgement or a line of text.
@@ -70,6 +71,8 @@ private:
     void handleRequest(quint8 command, const QByteArray& payload);
     void reply(quint8 command, const QByteArray& payload, int extraDelayMs = 0);
     void answerService(quint8 command, const QByteArray& payload);
+    void dropStaleMeasurements();
+    void corruptStoredByte();
     void queue(const QByteArray& bytes, const QString& note, int extraDelayMs = 0);
     void sendDue();
     void sendNoise();

@@ -62,6 +62,8 @@ QByteArray SimService::versionText() {
 
 std::optional<SimService::Answer> SimService::answer(quint8 command, const QByteArray& payload) {
     if (std::optional<Answer> answer = registerRequest(command, payload)) return answer;
+    if (const std::optional<QByteArray> levels = hardwareVolume_.answer(command, payload))
+        return levels->isEmpty() ? acknowledge() : record(*levels);
     return panelRequest(command, payload);
 }
 

@@ -4,6 +4,8 @@
 #include <array>
 #include <optional>
 
+#include "sim/sim_hardware_volume.h"
+
 // The radio's side of the engineering panels: an RF register file, the register table in its
 // EEPROM, the calibration record, the band table, the crystal trim and a version text. What
 // is written is what a later read returns.
@@ -28,6 +30,7 @@ public:
     QByteArray bandSegment(int segment) const { return band_.at(static_cast<size_t>(segment)); }
     int crystalTrim() const { return static_cast<qint8>(crystal_); }
     int eepromRowCount() const { return eepromCount_; }
+    SimHardwareVolume& hardwareVolume() { return hardwareVolume_; }
 
     static QByteArray defaultBandSegment(int segment);
     static QByteArray versionText();
@@ -47,4 +50,5 @@ private:
     QByteArray calibration_;
     std::array<QByteArray, 4> band_;
     quint8 crystal_ = 0;
+    SimHardwareVolume hardwareVolume_;
 };

@@ -26,6 +26,11 @@ struct CliRun {
 
 class LinkEndToEnd : public RadiosimTest {
 protected:
+    // The backups the writes take go to the test's own data folder (the command line and the
+    // programs it starts inherit it).
+    LinkEndToEnd() { qputenv("XDG_DATA_HOME", QFile::encodeName(path("data"))); }
+    ~LinkEndToEnd() override { qunsetenv("XDG_DATA_HOME"); }
+
     CliRun cli(const QStringList& arguments) {
         QProcess process;
         process.start(QStringLiteral(CLI_PATH),
@@ -124,7 +129,7 @@ TEST_F(LinkEndToEnd, AnInterruptCancelsTheReadLikeClosingTheProgressWindow) {
 TEST_F(LinkEndToEnd, AHangUpEndsTheWriteWithThePortClosed) {
     ASSERT_TRUE(WriteSaveFile(samplePlan(), path("plan.qzv")).ok());
     const QString device = startRadio({"--hang-up", "4", "--pace"});
-    const CliRun write = cli({"write", "--port", device, path("plan.qzv")});
+    const CliRun write = cli({"write", "--no-backup", "--port", device, path("plan.qzv")});
     EXPECT_EQ(write.exitCode, 1);
     const QStringList said = lines(write.err);
     EXPECT_TRUE(said.contains("message [NOTE]: Transmission Error，Check Radio"));
@@ -140,12 +145,51 @@ TEST_F(LinkEndToEnd, AWriteLeavesATraceOfEveryFrame) {
     QFile file(path("t.log"));
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     const QStringList trace = lines(QString::fromUtf8(file.readAll()));
-    EXPECT_EQ(trace.filter(QRegularExpression("^\\d+\\.\\d{3} > ")).size(), 27);
-    EXPECT_EQ(trace.filter(QRegularExpression(" < .*reply 0 bytes, checksum ok$")).size(), 26);
     EXPECT_EQ(trace.filter("not a frame").size(), 1) << "the garbage before the third reply";
-    ASSERT_FALSE(trace.isEmpty());
-    EXPECT_TRUE(trace.first().endsWith("  X settings")) << trace.first().toStdString();
-    EXPECT_TRUE(trace.last().endsWith("45 00 45  E end")) << trace.last().toStdString();
+
+    // The backup read, the write up to its closing "E", the verify read.
+    const QRegularExpression request("^\\d+\\.\\d{3} > ");
+    // indexOf() wants the whole line to match.
+    const auto settingsWrite = trace.indexOf(QRegularExpression(".*  X settings"));
+    const auto end = trace.indexOf(QRegularExpression(".* 45 00 45  E end"));
+    ASSERT_GT(settingsWrite, 0);
+    ASSERT_GT(end, settingsWrite);
+    const QStringList backup = trace.mid(0, settingsWrite);
+    const QStringList written = trace.mid(settingsWrite, end - settingsWrite);
+    const QStringList verify = trace.mid(end + 1);
+    for (const QStringList* read : {&backup, &verify}) {
+        EXPECT_EQ(read->filter(request).size(), 26);
+        EXPECT_EQ(read->filter(QRegularExpression(" > .*  R ch \\d+$")).size(), 25);
+        EXPECT_EQ(
+            read->filter(QRegularExpression(" < .*reply (4|11|13) bytes, checksum ok$")).size(),
+            26);
+    }
+    EXPECT_EQ(written.filter(request).size(), 26);
+    EXPECT_EQ(written.filter(QRegularExpression(" < .*reply 0 bytes, checksum ok$")).size(), 26);
+    EXPECT_TRUE(verify.first().contains(" > 53 03 00 00 04 5a")) << verify.first().toStdString();
+}
+
+TEST_F(LinkEndToEnd, ABackupComesBeforeAndAVerifyAfterTheWrite) {
+    ASSERT_TRUE(WriteSaveFile(samplePlan(), path("plan.qzv")).ok());
+    const QString device = startRadio({"--corrupt-stored", "5:1"});
+    const CliRun write = cli({"write", "--port", device, path("plan.qzv")});
+    EXPECT_EQ(write.exitCode, 1) << write.err.toStdString();
+    EXPECT_TRUE(write.err.contains("channel 5, Rx Frequency: written 440.12500, found"))
+        << write.err.toStdString();
+    // The path printed is where the radio's old plan now is.
+    const QRegularExpressionMatch saved =
+        QRegularExpression("backed up to (.*\\.qzv)\n").match(write.out);
+    ASSERT_TRUE(saved.hasMatch()) << write.out.toStdString();
+    EXPECT_TRUE(saved.captured(1).startsWith(path("data") + "/radioprog/backups/"));
+    const CliRun shown = cli({"show", saved.captured(1)});
+    EXPECT_EQ(shown.exitCode, 0);
+    EXPECT_TRUE(shown.out.contains("446.00625"));
+
+    // Without the verify the spoilt byte goes unnoticed; without the backup none is taken.
+    const CliRun unchecked =
+        cli({"write", "--no-backup", "--no-verify", "--port", device, path("plan.qzv")});
+    EXPECT_EQ(unchecked.exitCode, 0) << unchecked.err.toStdString();
+    EXPECT_FALSE(unchecked.out.contains("backed up"));
 }
 
 TEST_F(LinkEndToEnd, ALateReplyToTheOpeningShiftsNoChannel) {
@@ -180,7 +224,8 @@ TEST_F(LinkEndToEnd, ALineOfRandomBytesIsNeitherReadNorWritten) {
 TEST_F(LinkEndToEnd, ARadioThatHangsUpRightAfterTheClosingFrameWasWritten) {
     ASSERT_TRUE(WriteSaveFile(samplePlan(), path("plan.qzv")).ok());
     const QString device = startRadio({"--hang-up", "27", "--pace"});
-    const CliRun write = cli({"write", "--port", device, path("plan.qzv")});
+    const CliRun write =
+        cli({"write", "--no-backup", "--no-verify", "--port", device, path("plan.qzv")});
     EXPECT_EQ(write.exitCode, 0) << write.err.toStdString();
     EXPECT_TRUE(lines(write.err).contains("message: Write OK")) << write.err.toStdString();
 }

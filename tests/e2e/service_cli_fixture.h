@@ -1,12 +1,14 @@
 #pragma once
 
+// `radioprog-cli service` run against radiosim on a real pseudo-terminal, with radiosim's
+// trace of the requests it received.
+
 #include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
 
 #include "radiosim_process.h"
 
-// `radioprog-cli service` run against radiosim, which traces what it hears and says.
 struct CliRun {
     int exitCode = -1;
     QStringList out;  // lines

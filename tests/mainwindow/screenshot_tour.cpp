@@ -80,7 +80,7 @@ void productionWindows(MainWindow& window) {
                   "identity written");
         }
         settle();
-        save(QStringLiteral("14-identity"), identity->frameGeometry());
+        save(QStringLiteral("17-identity"), identity->frameGeometry());
         identity->hide();
     } else {
         check(false, "Form6");
@@ -96,13 +96,13 @@ void productionWindows(MainWindow& window) {
     check(QTest::qWaitFor([&] { return rssi->text() != QLatin1String("0"); }, 15000),
           "RSSI monitor live");
     settle(1000);
-    save(QStringLiteral("15-test-mode-rssi"), test->frameGeometry());
+    save(QStringLiteral("18-test-mode-rssi"), test->frameGeometry());
     auto* battery = test->findChild<QLineEdit*>(QStringLiteral("Text5"));
     test->findChild<QPushButton*>(QStringLiteral("Command3"))->click();
     check(QTest::qWaitFor([&] { return battery->text() != QLatin1String("0"); }, 15000),
           "battery monitor live");
     settle(600);
-    save(QStringLiteral("16-test-mode-battery"), test->frameGeometry());
+    save(QStringLiteral("19-test-mode-battery"), test->frameGeometry());
     test->close();  // tells the radio to stop
     settle();
 }
@@ -202,7 +202,10 @@ int main(int argc, char** argv) {
     };
     for (const Engineering& e : {Engineering{"crs", "Form14", "Command1", "8-crystal"},
                                  Engineering{"RFReg_Test", "Form9", "Command2", "9-registers"},
-                                 Engineering{"gcms", "Form3", "Command1", "11-calibration"}}) {
+                                 Engineering{"gcms", "Form3", "Command1", "11-calibration"},
+                                 Engineering{"yjx", "Form10", "Command1", "14-hardware"},
+                                 Engineering{"ypcs", "Form7", "Command1", "15-volume"},
+                                 Engineering{"mp3", "Form11", "Command1", "16-player"}}) {
         window.findChild<QAction*>(QString::fromLatin1(e.item))->trigger();
         QWidget* shown = nullptr;
         for (QWidget* top : QApplication::topLevelWidgets()) {

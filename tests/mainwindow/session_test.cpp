@@ -1,4 +1,5 @@
 #include <QAction>
+#include <QDir>
 #include <QFile>
 #include <QLineEdit>
 #include <QProgressBar>
@@ -6,6 +7,8 @@
 
 #include "link/memory_image.h"
 #include "mainwindow/progress_window.h"
+#include "persistence/backup_folder.h"
+#include "persistence/config_file.h"
 #include "sim/sim_radio.h"
 #include "window_fixture.h"
 
@@ -173,6 +176,45 @@ TEST(History, UndoAndRedoCoverEditsAndAWholeReadInAnyLanguage) {
     EXPECT_EQ(f.text(1, Col::Bandwidth), "wide");
     redo->trigger();
     EXPECT_EQ(f.text(0, Col::RxFrequency), readRx);
+}
+
+TEST(Sessions, TheBackupAndVerifyItemsTakeEffectAndAreRemembered) {
+    WindowFixture f(writablePlan());
+    QAction* backup = f.find<QAction>("BackupBeforeWrite");
+    QAction* verify = f.find<QAction>("VerifyAfterWrite");
+    EXPECT_TRUE(backup->isChecked());
+    EXPECT_TRUE(verify->isChecked());
+    EXPECT_EQ(backupFolder(),
+              QString::fromLocal8Bit(qgetenv("XDG_DATA_HOME")) + "/radioprog/backups");
+    const auto backupCount = [] { return QDir(backupFolder()).entryList(QDir::Files).size(); };
+    const auto before = backupCount();
+    SimFaults faults;
+    faults.corruptChannel = 4;
+    faults.corruptOffset = 1;
+    f.radio().setFaults(faults);
+    const auto write = [&f] {
+        f.prompts.boxes.clear();
+        QTest::mouseClick(f.find<QPushButton>("Command1"), Qt::LeftButton);
+        EXPECT_TRUE(f.waitFor([&] { return !f.window->sessionRunning(); }, 30000));
+    };
+
+    write();
+    EXPECT_EQ(backupCount(), before + 1);
+    ASSERT_EQ(f.prompts.boxes.size(), 1u);
+    EXPECT_EQ(f.prompts.boxes[0].icon, BoxIcon::Warning);
+    EXPECT_TRUE(f.prompts.boxes[0].text.contains("channel 4, Rx Frequency: written 440.10000"))
+        << f.prompts.boxes[0].text.toStdString();
+    EXPECT_TRUE(buttonsEnabled(f));
+
+    backup->trigger();
+    verify->trigger();
+    write();
+    EXPECT_EQ(f.prompts.boxTexts(), QStringList{"Write OK"});
+    EXPECT_EQ(backupCount(), before + 1);
+    const SafeWritePreferences remembered =
+        readSafeWritePreferences(f.dir.filePath(QStringLiteral("config.ini")));
+    EXPECT_FALSE(remembered.backup);
+    EXPECT_FALSE(remembered.verify);
 }
 
 }  // namespace

@@ -162,14 +162,15 @@ TEST(Ports, TheListMenuAndPickerFollowThePortControl) {
 
 TEST(EngineeringWindows, EachMenuItemOpensOneModelessInstance) {
     WindowFixture f(startupDocument(UiLanguage::Chinese));
-    for (const char* item : {"crs", "RFReg_Test", "gcms", "xid", "csms"}) {
+    for (const char* item : {"crs", "RFReg_Test", "gcms", "yjx", "ypcs", "mp3", "xid", "csms"}) {
         SCOPED_TRACE(item);
         QAction* action = f.find<QAction>(item);
         ASSERT_TRUE(action->isEnabled());
         action->trigger();
         action->trigger();
     }
-    for (const char* form : {"Form14", "Form9", "Form3", "Form6", "Form4"}) {
+    for (const char* form :
+         {"Form14", "Form9", "Form3", "Form10", "Form7", "Form11", "Form6", "Form4"}) {
         SCOPED_TRACE(form);
         const QList<QWidget*> windows = f.window->findChildren<QWidget*>(QString::fromLatin1(form));
         ASSERT_EQ(windows.size(), 1);
@@ -187,4 +188,18 @@ TEST(EngineeringWindows, EachMenuItemOpensOneModelessInstance) {
     f.find<QAction>("eng")->trigger();
     EXPECT_EQ(read->text(), "Read");
     EXPECT_EQ(writeId->text(), "Write ID");
+}
+
+TEST(EngineeringWindows, TheVolumeWindowAnswersInTheLanguageOfTheMoment) {
+    WindowFixture f(startupDocument(UiLanguage::Chinese));
+    f.find<QAction>("ypcs")->trigger();
+    auto* read = f.window->findChild<QWidget*>(QStringLiteral("Form7"))
+                     ->findChild<QPushButton*>(QStringLiteral("Command1"));
+    for (const char* expected : {"读取 OK", "Read OK"}) {
+        const qsizetype before = f.prompts.boxTexts().size();
+        read->click();
+        ASSERT_TRUE(f.waitFor([&] { return f.prompts.boxTexts().size() > before; }));
+        EXPECT_EQ(f.prompts.boxTexts().last(), QString::fromUtf8(expected));
+        f.find<QAction>("eng")->trigger();
+    }
 }

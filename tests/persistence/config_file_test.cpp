@@ -167,6 +167,27 @@ TEST_F(ConfigFileTest, PortsSectionPinsNumbersToDevices) {
     EXPECT_TRUE(readPortPins(dir_.filePath("missing.ini")).isEmpty());
 }
 
+TEST_F(ConfigFileTest, SafeWriteChoicesHaveASectionOfTheirOwn) {
+    EXPECT_TRUE(readSafeWritePreferences(path_).backup) << "on without a file";
+    const QStringList before = completeDefaultFile() + QStringList{"[ports]", "com3=/dev/ttyUSB0"};
+    writeLines(before);
+    ASSERT_TRUE(writeSafeWritePreferences(path_, {false, true}));
+    EXPECT_EQ(lines(), before + QStringList({"[safewrite]", "backup=no", "verify=yes"}));
+    SafeWritePreferences read = readSafeWritePreferences(path_);
+    EXPECT_FALSE(read.backup);
+    EXPECT_TRUE(read.verify);
+
+    ASSERT_TRUE(writeSafeWritePreferences(path_, {true, false}));
+    read = readSafeWritePreferences(path_);
+    EXPECT_TRUE(read.backup);
+    EXPECT_FALSE(read.verify);
+    EXPECT_EQ(ReadConfigFile(path_).maxch, QStringLiteral("22"));
+    EXPECT_EQ(lines().mid(0, before.size()), before);
+
+    ASSERT_TRUE(QFile::remove(path_) && QDir().mkpath(path_));  // unreadable: never replaced
+    EXPECT_FALSE(writeSafeWritePreferences(path_, {true, true}));
+}
+
 TEST(ConfigLocation, OverrideThenProgramFolderThenUserFolder) {
     QTemporaryDir program;
     const QString user = program.filePath("user");

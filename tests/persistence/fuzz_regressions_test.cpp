@@ -4,6 +4,7 @@
 
 #include <vector>
 
+#include "csv_properties.h"
 #include "reader_properties.h"
 #include "regression_inputs.h"
 
@@ -26,6 +27,17 @@ TEST(FuzzRegressions, EveryInputKeepsTheReadersPromises) {
         }
         for (const char* promise : broken) {
             EXPECT_EQ(promise, nullptr) << name.toStdString() << ": " << promise;
+        }
+    }
+}
+
+TEST(FuzzRegressions, EveryCsvInputKeepsTheImportsPromises) {
+    const auto inputs = regressionInputs(QStringLiteral(PERSISTENCE_CSV_FUZZ_REGRESSIONS_DIR));
+    ASSERT_FALSE(inputs.isEmpty());
+    for (auto it = inputs.cbegin(); it != inputs.cend(); ++it) {
+        for (int variant : {0, 1}) {
+            const char* broken = csv_properties::checkCsvImport(it.value(), variant);
+            EXPECT_EQ(broken, nullptr) << it.key().toStdString() << ": " << broken;
         }
     }
 }

@@ -20,6 +20,17 @@ inline QByteArray readSample(const char* name) {
     return file.readAll();
 }
 
+// A file's bytes, empty when it cannot be read; and a file written with `bytes`.
+inline QByteArray fileContent(const QString& path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+inline void writeFileContent(const QString& path, const QByteArray& bytes) {
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly)) << path.toStdString();
+    ASSERT_EQ(file.write(bytes), bytes.size());
+}
+
 inline Codeplug startupDoc(UiLanguage language = UiLanguage::Chinese, bool fixed = false) {
     StartupConfig config;
     config.language = language;

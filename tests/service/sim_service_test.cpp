@@ -36,7 +36,20 @@ TEST(SimService, MalformedRequestsGoUnanswered) {
          false},
         {service::kBandRead, "030005", true},
         {service::kBandRead, "040005", false},
-        {service::kBandWrite, "000005", false},  // the volume table read of another panel
+        {service::kBandWrite, "000005", true},  // the same code reads the player's steps
+        {service::kBandDefaults, "0000000102030405060708", true},  // and writes them
+        {service::kBandDefaults, "00000001020304050607", false},
+        {service::kHardwareWrite, "0000ff04026d", true},
+        {service::kHardwareWrite, "0000ff0402", false},
+        {service::kVolumeRead, "0000", false},
+        {service::kVolumeWrite,
+         "0000"
+         "0a02080a0c0e1012160a",
+         true},
+        {service::kVolumeWrite,
+         "0000"
+         "0a02080a0c0e101216",
+         false},
         {service::kCrystalWrite, "000000fd", true},
         {service::kCrystalWrite, "0000fd", false},
         {0x55, "01", false},

@@ -86,14 +86,12 @@ TEST_F(IdentityWindowTest, OnlyDigitsAreTypedAndAnEmptyNumberIsRefusedInRed) {
 
 TEST_F(IdentityWindowTest, CaptionsFollowTheLanguage) {
     channel.setLanguage(UiLanguage::English);
-    window.retranslate();
     EXPECT_EQ(writeButton()->text(), "Write ID");
     EXPECT_EQ(readButton()->text(), "Read ID");
     EXPECT_EQ(find<QLabel>(window, "Label2")->text(), "Success");
     EXPECT_EQ(find<QLabel>(window, "Label3")->text(), "(decimal)");
     EXPECT_EQ(window.windowTitle(), "输入ID");
     channel.setLanguage(UiLanguage::Chinese);
-    window.retranslate();
     EXPECT_EQ(writeButton()->text(), "写ID");
     EXPECT_EQ(find<QLabel>(window, "Label2")->text(), "成功数");
 }

@@ -77,6 +77,7 @@ IdentityWindow::IdentityWindow(ServiceChannel& channel, QWidget* parent)
     });
     connect(readButton_, &QPushButton::clicked, &panel_, &IdentityPanel::read);
     connect(&panel_, &IdentityPanel::markChanged, this, &IdentityWindow::showMark);
+    connect(&channel_, &ServiceChannel::languageChanged, this, &IdentityWindow::retranslate);
     connect(&panel_, &ServicePanel::runningChanged, this, [this](bool running) {
         writeButton_->setEnabled(!running);
         readButton_->setEnabled(!running);
@@ -100,11 +101,6 @@ void IdentityWindow::retranslate() {
     decimalLabel_->setText(l10n::idCaption(DecimalLabel, language));
     writeButton_->setText(l10n::idCaption(WriteId, language));
     readButton_->setText(l10n::idCaption(ReadId, language));
-}
-
-void IdentityWindow::showEvent(QShowEvent* event) {
-    retranslate();
-    QWidget::showEvent(event);
 }
 
 void IdentityWindow::showValues() {

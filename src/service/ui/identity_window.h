@@ -20,13 +20,11 @@ public:
     ~IdentityWindow() override;
 
     bool isBusy() const { return panel_.isRunning(); }
-    // The captions in the channel's language.
-    void retranslate();
-
-protected:
-    void showEvent(QShowEvent* event) override;
 
 private:
+    // The captions in the channel's language, which they follow.
+    void retranslate();
+
     void showMark(IdentityPanel::Mark mark);
     void showValues();
 
