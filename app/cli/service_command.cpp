@@ -99,7 +99,7 @@ void addServiceCommand(CLI::App& app, const GlobalOptions& global, CommandRunner
     CLI::App* service = app.add_subcommand(
         "service",
         "the factory service panels: RF registers, calibration, band table, crystal, "
-        "hardware options, volume tables");
+        "hardware options, volume tables, the radio's identity, test mode and monitor");
     auto request = std::make_shared<ServiceRequest>();
     service->add_option("--port", request->port, "COMn, a device path, or sim")->required();
     addTraceOption(service, request->trace);

@@ -22,6 +22,8 @@ namespace {
 QLineEdit* display(const char* name) {
     auto* edit = named(new QLineEdit(QStringLiteral("0")), name);
     edit->setReadOnly(true);
+    // Only shows: the keyboard passes it by, a click still selects to copy.
+    edit->setFocusPolicy(Qt::ClickFocus);
     edit->setMaximumWidth(90);
     return edit;
 }
