@@ -26,6 +26,4 @@ PortPickerDialog::PortPickerDialog(QWidget* parent)
     layout->addWidget(choose);
 }
 
-void PortPickerDialog::preselect(int number) {
-    numbers_->setCurrentIndex(number);
-}
+void PortPickerDialog::preselect(int number) { numbers_->setCurrentIndex(number); }
