@@ -99,7 +99,12 @@ namespace {
 // The file's profile; the error when it exists but cannot be read (then it must not be
 // rewritten either).
 Result<PrivateProfile> readProfile(const QString& configPath) {
-    if (!QFileInfo::exists(configPath)) return PrivateProfile();
+    const QFileInfo info(configPath);
+    if (!info.exists()) return PrivateProfile();
+    // A FIFO or device of that name would hold the program at start-up, waiting for bytes.
+    if (!info.isFile() && !info.isDir()) {
+        return Error::inFile(ErrorKind::NotARegularFile, configPath);
+    }
     const Result<QByteArray> content = readWholeFile(configPath);
     if (!content) return content.error();
     return PrivateProfile::fromText(decodeFileText(*content));
