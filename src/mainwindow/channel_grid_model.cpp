@@ -26,13 +26,20 @@ int ChannelGridModel::columnCount(const QModelIndex& parent) const {
 QString ChannelGridModel::cellText(int slot, int column) const {
     const ChannelRecord& ch = doc_.plan[slot];
     switch (column) {
-        case ChannelNumber: return QString::number(slot + 1);
-        case RxFrequency: return ch.rxfreq;
-        case RxCode: return ch.rxctc;
-        case TxFrequency: return ch.txfreq;
-        case TxCode: return ch.txctc;
-        case Bandwidth: return ch.band;
-        case Power: return ch.power;
+        case ChannelNumber:
+            return QString::number(slot + 1);
+        case RxFrequency:
+            return ch.rxfreq;
+        case RxCode:
+            return ch.rxctc;
+        case TxFrequency:
+            return ch.txfreq;
+        case TxCode:
+            return ch.txctc;
+        case Bandwidth:
+            return ch.band;
+        case Power:
+            return ch.power;
     }
     return {};
 }
@@ -132,9 +139,8 @@ void ChannelGridModel::cellClicked(const QModelIndex& index) {
 bool ChannelGridModel::codePicked(const QModelIndex& index, int position) {
     if (!isCode(index.column()) || !(flags(index) & Qt::ItemIsEditable)) return false;
     bool customTone = false;
-    history_.record([&] {
-        customTone = pickCode(doc_, index.row(), directionOf(index.column()), position);
-    });
+    history_.record(
+        [&] { customTone = pickCode(doc_, index.row(), directionOf(index.column()), position); });
     refresh();
     return customTone;
 }

@@ -71,6 +71,8 @@ void MainWindow::buildMenus() {
     traceAction_ = addNamedAction(setupMenu_, "TraceToFile");
     traceAction_->setCheckable(true);
     connect(traceAction_, &QAction::toggled, this, &MainWindow::traceToFile);
+    cableCheckAction_ = addNamedAction(setupMenu_, "CableCheck");
+    connect(cableCheckAction_, &QAction::triggered, this, &MainWindow::openCableCheck);
     setupMenu_->addSeparator();
 
     programMenu_ = menuBar()->addMenu(QString());

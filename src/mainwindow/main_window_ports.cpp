@@ -2,7 +2,10 @@
 #include <QComboBox>
 #include <QProgressBar>
 
+#include "doctor/diagnosis.h"
+#include "doctor/report_text.h"
 #include "l10n/window_texts.h"
+#include "mainwindow/cable_check_dialog.h"
 #include "mainwindow/main_window.h"
 #include "mainwindow/port_picker_dialog.h"
 #include "mainwindow/port_with_simulator.h"
@@ -56,11 +59,29 @@ void MainWindow::openPortPicker() {
             portControl_.comxDialogConfirmed(number);
             refreshPortViews();
         });
+        connect(portPicker_, &PortPickerDialog::cableFound, this, &MainWindow::cableFound);
     }
+    portPicker_->setLanguage(doc_.language);
     portPicker_->preselect(portControl_.comxDialogOpened());
     portPicker_->show();
     portPicker_->raise();
     portPicker_->activateWindow();
+}
+
+void MainWindow::cableFound(const QString& device) {
+    if (sessionRunning()) return;
+    const int number = portControl_.adoptDevice(device);
+    portControl_.check_uart();  // the drop-down lists the cable too
+    portControl_.selectDevice(device);
+    refreshPortViews();
+    if (portPicker_ && number < PortControl::kComxDialogItems) portPicker_->preselect(number);
+}
+
+void MainWindow::openCableCheck() {
+    const QStringList report = diagnosisLines(diagnose(RootedSystemFacts()), doc_.language);
+    auto* dialog = new CableCheckDialog(report, doc_.language, this);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->show();
 }
 
 void MainWindow::statusTimerTick() {

@@ -5,6 +5,7 @@
 #include <QMenu>
 #include <QPushButton>
 
+#include "l10n/doctor_texts.h"
 #include "l10n/error_texts.h"
 #include "l10n/session_texts.h"
 #include "l10n/window_texts.h"
@@ -13,6 +14,7 @@
 #include "mainwindow/custom_tone_dialog.h"
 #include "mainwindow/document_history.h"
 #include "mainwindow/main_window.h"
+#include "mainwindow/port_picker_dialog.h"
 #include "model/presets.h"
 #include "persistence/codeplug_file.h"
 #include "persistence/config_file.h"
@@ -67,6 +69,8 @@ void MainWindow::applyCaptions() {
     otherAction_->setText(caption(kMenuOther));
     modelMenu_->setTitle(caption(kMenuModel));
     traceAction_->setText(l10n::sessionText(l10n::SessionText::TraceMenuItem, language));
+    cableCheckAction_->setText(l10n::doctorText(l10n::DoctorText::CableCheckItem, language));
+    if (portPicker_) portPicker_->setLanguage(language);
     programMenu_->setTitle(caption(kMenuProgram));
     readAction_->setText(caption(kMenuRead));
     writeAction_->setText(caption(kMenuWrite));

@@ -1,8 +1,8 @@
 #include "mainwindow/splash_screen.h"
 
 #include <QLabel>
-#include <iterator>
 #include <QVBoxLayout>
+#include <iterator>
 
 #include "l10n/window_texts.h"
 
@@ -36,6 +36,10 @@ SplashScreen::SplashScreen(QWidget* parent)
     closeTimer_.start(kShownMs);
 }
 
-void SplashScreen::mousePressEvent(QMouseEvent*) { close(); }
+void SplashScreen::mousePressEvent(QMouseEvent*) {
+    close();
+}
 
-void SplashScreen::keyPressEvent(QKeyEvent*) { close(); }
+void SplashScreen::keyPressEvent(QKeyEvent*) {
+    close();
+}

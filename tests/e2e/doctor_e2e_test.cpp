@@ -1,12 +1,12 @@
 // radioprog-cli doctor --port against radiosim, and against a pseudo-terminal nobody answers.
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <QProcess>
 #include <QTemporaryDir>
 #include <cstdlib>
-#include <fcntl.h>
-#include <unistd.h>
 
 #include "radiosim_process.h"
 
@@ -21,8 +21,8 @@ protected:
 
     Run doctor(const QString& port) {
         QProcess process;
-        process.start(QStringLiteral(CLI_PATH), {"--config", dir_.path(), "--lang", "en", "doctor",
-                                                 "--port", port});
+        process.start(QStringLiteral(CLI_PATH),
+                      {"--config", dir_.path(), "--lang", "en", "doctor", "--port", port});
         EXPECT_TRUE(process.waitForFinished(30'000));
         return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput())};
     }
