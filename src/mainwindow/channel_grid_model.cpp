@@ -26,20 +26,13 @@ int ChannelGridModel::columnCount(const QModelIndex& parent) const {
 QString ChannelGridModel::cellText(int slot, int column) const {
     const ChannelRecord& ch = doc_.plan[slot];
     switch (column) {
-        case ChannelNumber:
-            return QString::number(slot + 1);
-        case RxFrequency:
-            return ch.rxfreq;
-        case RxCode:
-            return ch.rxctc;
-        case TxFrequency:
-            return ch.txfreq;
-        case TxCode:
-            return ch.txctc;
-        case Bandwidth:
-            return ch.band;
-        case Power:
-            return ch.power;
+        case ChannelNumber: return QString::number(slot + 1);
+        case RxFrequency: return ch.rxfreq;
+        case RxCode: return ch.rxctc;
+        case TxFrequency: return ch.txfreq;
+        case TxCode: return ch.txctc;
+        case Bandwidth: return ch.band;
+        case Power: return ch.power;
     }
     return {};
 }
@@ -139,8 +132,9 @@ void ChannelGridModel::cellClicked(const QModelIndex& index) {
 bool ChannelGridModel::codePicked(const QModelIndex& index, int position) {
     if (!isCode(index.column()) || !(flags(index) & Qt::ItemIsEditable)) return false;
     bool customTone = false;
-    history_.record(
-        [&] { customTone = pickCode(doc_, index.row(), directionOf(index.column()), position); });
+    history_.record([&] {
+        customTone = pickCode(doc_, index.row(), directionOf(index.column()), position);
+    });
     refresh();
     return customTone;
 }

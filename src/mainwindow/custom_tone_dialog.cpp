@@ -11,12 +11,7 @@
 
 CustomToneDialog::CustomToneDialog(Codeplug& doc, DocumentHistory& history, int slot,
                                    CodeDirection direction, WindowPrompts& prompts, QWidget* parent)
-    : QDialog(parent),
-      doc_(doc),
-      history_(history),
-      slot_(slot),
-      direction_(direction),
-      prompts_(prompts),
+    : QDialog(parent), doc_(doc), history_(history), slot_(slot), direction_(direction), prompts_(prompts),
       field_(new QLineEdit(this)) {
     setObjectName(QStringLiteral("CustomToneDialog"));
     setWindowTitle(QString::fromUtf8(l10n::fixed::kCustomToneTitle));

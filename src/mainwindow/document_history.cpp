@@ -52,13 +52,9 @@ void DocumentHistory::record(const std::function<void()>& edit) {
     push(std::move(before));
 }
 
-void DocumentHistory::begin() {
-    pending_ = doc_;
-}
+void DocumentHistory::begin() { pending_ = doc_; }
 
-void DocumentHistory::end() {
-    push(std::move(pending_));
-}
+void DocumentHistory::end() { push(std::move(pending_)); }
 
 void DocumentHistory::push(Codeplug before) {
     if (sameContent(before, doc_)) return;

@@ -18,8 +18,8 @@
 
 void MainWindow::StatusRelay::showStatus(const StatusText& status) {
     const QString message = l10n::message(status.id, window_.doc_.language);
-    const QString suffix =
-        status.text.startsWith(message) ? status.text.mid(message.size()) : QString();
+    const QString suffix = status.text.startsWith(message) ? status.text.mid(message.size())
+                                                           : QString();
     window_.status_ = StatusText{status.id, suffix};
     window_.statusPanel_->setText(status.text);
     window_.prompts_.showStatus(status);
@@ -59,17 +59,11 @@ void MainWindow::WidgetSessionView::hideProgress() {
     window_.progress_->hide();
 }
 
-void MainWindow::WidgetSessionView::pauseStatusTimers() {
-    window_.statusTimer_.stop();
-}
+void MainWindow::WidgetSessionView::pauseStatusTimers() { window_.statusTimer_.stop(); }
 
-void MainWindow::WidgetSessionView::resumeStatusTimers() {
-    window_.statusTimer_.start();
-}
+void MainWindow::WidgetSessionView::resumeStatusTimers() { window_.statusTimer_.start(); }
 
-bool MainWindow::sessionRunning() const {
-    return session_ && session_->isRunning();
-}
+bool MainWindow::sessionRunning() const { return session_ && session_->isRunning(); }
 
 // The bar's range is the session's own: a read ends at 75 and a write at 156, and either should
 // end with the bar full.
@@ -117,9 +111,9 @@ void MainWindow::closeEvent(QCloseEvent* event) {
     if (splash_) splash_->close();
     statusTimer_.stop();
     exitAction_->setChecked(true);  // the closing flag
-    const bool yes =
-        prompts_.askYesNo({l10n::message(l10n::MessageId::MsgConfirmExit, doc_.language),
-                           l10n::message(l10n::MessageId::MsgConfirmExitTitle, doc_.language)});
+    const bool yes = prompts_.askYesNo(
+        {l10n::message(l10n::MessageId::MsgConfirmExit, doc_.language),
+         l10n::message(l10n::MessageId::MsgConfirmExitTitle, doc_.language)});
     if (!yes) {
         event->ignore();
         exitAction_->setChecked(false);

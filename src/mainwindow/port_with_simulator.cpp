@@ -4,10 +4,8 @@
 
 PortWithSimulator::PortWithSimulator(std::unique_ptr<SerialPort> hardware, Clock& clock,
                                      QObject* parent)
-    : SerialPort(parent),
-      hardware_(std::move(hardware)),
-      simulator_(SimulatedRadioPort::create(clock)),
-      active_(hardware_.get()) {
+    : SerialPort(parent), hardware_(std::move(hardware)),
+      simulator_(SimulatedRadioPort::create(clock)), active_(hardware_.get()) {
     attach(*hardware_);
     attach(*simulator_);
 }
@@ -18,13 +16,9 @@ QString PortWithSimulator::simulatorDevice() {
     return QString::fromLatin1(SimulatedPort::kDefaultDevice);
 }
 
-void PortWithSimulator::setSimulatorPacing(bool on) {
-    simulator_->setPacing(on);
-}
+void PortWithSimulator::setSimulatorPacing(bool on) { simulator_->setPacing(on); }
 
-SimRadio& PortWithSimulator::simulatedRadio() {
-    return simulator_->radio();
-}
+SimRadio& PortWithSimulator::simulatedRadio() { return simulator_->radio(); }
 
 void PortWithSimulator::attach(SerialPort& inner) {
     // The inner ports always report arrivals; whether anyone hears of them is this port's
@@ -41,14 +35,12 @@ void PortWithSimulator::attach(SerialPort& inner) {
     });
 }
 
-SerialPort& PortWithSimulator::active() const {
-    return *active_;
-}
+SerialPort& PortWithSimulator::active() const { return *active_; }
 
 PortOpenError PortWithSimulator::open(const QString& device) {
     close();
-    active_ =
-        device == simulatorDevice() ? static_cast<SerialPort*>(simulator_.get()) : hardware_.get();
+    active_ = device == simulatorDevice() ? static_cast<SerialPort*>(simulator_.get())
+                                          : hardware_.get();
     return active_->open(device);
 }
 
@@ -57,27 +49,11 @@ void PortWithSimulator::close() {
     simulator_->close();
 }
 
-bool PortWithSimulator::isOpen() const {
-    return active().isOpen();
-}
-QString PortWithSimulator::device() const {
-    return active().device();
-}
-void PortWithSimulator::write(const QByteArray& bytes) {
-    active().write(bytes);
-}
-qint64 PortWithSimulator::bytesToWrite() const {
-    return active().bytesToWrite();
-}
-qint64 PortWithSimulator::bytesAvailable() const {
-    return active().bytesAvailable();
-}
-QByteArray PortWithSimulator::read(qint64 maxBytes) {
-    return active().read(maxBytes);
-}
-void PortWithSimulator::discardInput() {
-    active().discardInput();
-}
-void PortWithSimulator::discardOutput() {
-    active().discardOutput();
-}
+bool PortWithSimulator::isOpen() const { return active().isOpen(); }
+QString PortWithSimulator::device() const { return active().device(); }
+void PortWithSimulator::write(const QByteArray& bytes) { active().write(bytes); }
+qint64 PortWithSimulator::bytesToWrite() const { return active().bytesToWrite(); }
+qint64 PortWithSimulator::bytesAvailable() const { return active().bytesAvailable(); }
+QByteArray PortWithSimulator::read(qint64 maxBytes) { return active().read(maxBytes); }
+void PortWithSimulator::discardInput() { active().discardInput(); }
+void PortWithSimulator::discardOutput() { active().discardOutput(); }

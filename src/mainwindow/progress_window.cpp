@@ -10,8 +10,7 @@
 
 ProgressWindow::ProgressWindow(QWidget* parent)
     : QWidget(parent, Qt::Window | Qt::WindowTitleHint | Qt::WindowCloseButtonHint),
-      bar_(new QProgressBar(this)),
-      caption_(new QLabel(this)) {
+      bar_(new QProgressBar(this)), caption_(new QLabel(this)) {
     setObjectName(QStringLiteral("Form5"));
     bar_->setObjectName(QStringLiteral("ProgressBar1"));
     bar_->setRange(0, SessionView::kProgressMaximum);

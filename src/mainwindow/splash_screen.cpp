@@ -1,8 +1,8 @@
 #include "mainwindow/splash_screen.h"
 
 #include <QLabel>
-#include <QVBoxLayout>
 #include <iterator>
+#include <QVBoxLayout>
 
 #include "l10n/window_texts.h"
 
@@ -36,10 +36,6 @@ SplashScreen::SplashScreen(QWidget* parent)
     closeTimer_.start(kShownMs);
 }
 
-void SplashScreen::mousePressEvent(QMouseEvent*) {
-    close();
-}
+void SplashScreen::mousePressEvent(QMouseEvent*) { close(); }
 
-void SplashScreen::keyPressEvent(QKeyEvent*) {
-    close();
-}
+void SplashScreen::keyPressEvent(QKeyEvent*) { close(); }
