@@ -63,6 +63,11 @@ void PortPickerDialog::setLanguage(UiLanguage language) {
     if (finderRunning() || finder_.step() != PortFinder::Step::Waiting) showFinderStep();
 }
 
+void PortPickerDialog::hideEvent(QHideEvent* event) {
+    rescan_.stop();
+    QDialog::hideEvent(event);
+}
+
 void PortPickerDialog::startFinder() {
     finder_.start(listPorts_());
     showFinderStep();

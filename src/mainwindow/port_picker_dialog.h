@@ -35,6 +35,10 @@ Q_SIGNALS:
     // The port finder settled on the cable's device.
     void cableFound(const QString& device);
 
+protected:
+    // A closed dialog stops looking.
+    void hideEvent(QHideEvent* event) override;
+
 private:
     void startFinder();
     void rescan();

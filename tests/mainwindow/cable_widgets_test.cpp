@@ -34,6 +34,11 @@ TEST(PortFinderDialog, SelectsThePortThatCameBack) {
     EXPECT_EQ(found.first().first().toString(), QStringLiteral("/dev/ttyUSB1"));
     EXPECT_EQ(dialog.finderStatus().text(), QStringLiteral("The cable is on /dev/ttyUSB1."));
     EXPECT_FALSE(dialog.finderRunning());  // no listing once it is found
+
+    dialog.findChild<QPushButton*>(QStringLiteral("FindCable"))->click();
+    EXPECT_TRUE(dialog.finderRunning());
+    dialog.hide();
+    EXPECT_FALSE(dialog.finderRunning());  // nor once the dialog is closed
 }
 
 TEST(CableCheck, TheSetupMenuShowsTheReport) {
