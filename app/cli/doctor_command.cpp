@@ -19,40 +19,24 @@ struct DoctorOptions {
 // One "S" request on the port; its findings with the likely causes of silence.
 ProbeReport probePort(const GlobalOptions& global, const PortArgument& argument,
                       const SystemFacts& facts, const Diagnosis& diagnosis, UiLanguage language) {
-    RadioLine line(global, argument, language);
-    ProbeReport report;
+    QString device;
     switch (argument.kind) {
         case PortArgument::Number:
-            report.device = global.portCatalogue().deviceFor(argument.number);
-            if (report.device.isEmpty())
-                report.device = QStringLiteral("COM%1").arg(argument.number);
+            device = global.portCatalogue().deviceFor(argument.number);
+            if (device.isEmpty()) device = QStringLiteral("COM%1").arg(argument.number);
             break;
         case PortArgument::Simulator:
-            report.device = QStringLiteral("sim");
+            device = QStringLiteral("sim");
             break;
         case PortArgument::Device:
-            report.device = argument.device;
+            device = argument.device;
             break;
     }
-    if (!line.port->isOpen()) {
-        report.openError = PortOpenError::Other;
-        report.openErrorDetail = line.port->openErrorDetail();
-    } else {
-        RadioProbe probe(*line.transport);
-        runUntilFinished(probe, &RadioProbe::finished, [&probe] { return probe.start(); });
-        report.outcome = probe.outcome();
-        report.answer = probe.answer();
-        report.heard = probe.heard();
-        report.portLostDetail = probe.portLostDetail();
-    }
-    const QString resolved = facts.canonicalPath(report.device);
-    const SerialDeviceReport* device = nullptr;
-    for (const SerialDeviceReport& candidate : diagnosis.devices) {
-        if (candidate.path == report.device || candidate.path == resolved) device = &candidate;
-    }
-    report.causes = probeCauses(report.outcome, report.openError, device,
-                                static_cast<int>(diagnosis.devices.size()));
-    return report;
+    RadioLine line(global, argument, language);
+    if (!line.port->isOpen()) return reportUnopenedPort(device, line.port->openErrorDetail());
+    RadioProbe probe(*line.transport);
+    runUntilFinished(probe, &RadioProbe::finished, [&probe] { return probe.start(); });
+    return reportProbe(device, probe, diagnosis, facts);
 }
 
 int runDoctor(const GlobalOptions& global, const DoctorOptions& options) {

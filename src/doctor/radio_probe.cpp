@@ -10,7 +10,11 @@ RadioProbe::RadioProbe(LinkTransport& transport, QObject* parent)
     : QObject(parent), transport_(transport) {}
 
 RadioProbe::~RadioProbe() {
-    if (running_) cancel();
+    // Gone with its owner (a dialog closed under it): the link is freed and nobody is told.
+    if (!running_) return;
+    transport_.abort();
+    transport_.setTrace(nullptr);
+    transport_.release(this);
 }
 
 bool RadioProbe::start() {

@@ -165,6 +165,33 @@ QStringList diagnosisLines(const Diagnosis& diagnosis, UiLanguage language) {
     return out.lines();
 }
 
+ProbeReport reportProbe(const QString& device, const RadioProbe& probe, const Diagnosis& diagnosis,
+                        const SystemFacts& facts) {
+    ProbeReport report;
+    report.device = device;
+    report.outcome = probe.outcome();
+    report.answer = probe.answer();
+    report.heard = probe.heard();
+    report.portLostDetail = probe.portLostDetail();
+    const QString resolved = facts.canonicalPath(device);
+    const SerialDeviceReport* found = nullptr;
+    for (const SerialDeviceReport& candidate : diagnosis.devices) {
+        if (candidate.path == device || candidate.path == resolved) found = &candidate;
+    }
+    report.causes = probeCauses(report.outcome, PortOpenError::None, found,
+                                static_cast<int>(diagnosis.devices.size()));
+    return report;
+}
+
+ProbeReport reportUnopenedPort(const QString& device, const QString& detail) {
+    ProbeReport report;
+    report.device = device;
+    report.openError = PortOpenError::Other;
+    report.openErrorDetail = detail;
+    report.causes = probeCauses(report.outcome, report.openError, nullptr, 0);
+    return report;
+}
+
 QStringList probeLines(const ProbeReport& probe, UiLanguage language) {
     Writer out(language);
     out.line(0, out.text(DoctorText::ProbeHeading).arg(probe.device));

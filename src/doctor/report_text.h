@@ -22,4 +22,11 @@ struct ProbeReport {
     QList<ProbeCause> causes;
 };
 
+// The findings of a probe that has finished on `device` (as the user named it), with the
+// likely causes from what the diagnosis knows of that device.
+ProbeReport reportProbe(const QString& device, const RadioProbe& probe, const Diagnosis& diagnosis,
+                        const SystemFacts& facts);
+// The findings when the port did not open.
+ProbeReport reportUnopenedPort(const QString& device, const QString& detail);
+
 QStringList probeLines(const ProbeReport& probe, UiLanguage language);

@@ -95,6 +95,7 @@ const TextPair kDoctorTexts[] = {
     {"串口线检查", "Cable check"},
     {"串口线检查", "Cable check"},
     {"关闭", "Close"},
+    {"测试对讲机", "Test the radio"},
     {"寻找串口线", "Find my cable"},
     {"请拔下串口线；如果还没有插上，请插上。",
      "Unplug the cable, or plug it in if it is not in yet."},

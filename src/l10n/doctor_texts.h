@@ -67,6 +67,7 @@ enum class DoctorText {
     CableCheckItem,
     CableCheckTitle,
     Close,
+    ProbeButton,
     FindCable,
     FinderWaiting,
     FinderUnplugged,  // %1 device

@@ -3,6 +3,7 @@
 #include <QProgressBar>
 
 #include "doctor/diagnosis.h"
+#include "doctor/radio_probe.h"
 #include "doctor/report_text.h"
 #include "l10n/window_texts.h"
 #include "mainwindow/cable_check_dialog.h"
@@ -78,9 +79,36 @@ void MainWindow::cableFound(const QString& device) {
 }
 
 void MainWindow::openCableCheck() {
-    const QStringList report = diagnosisLines(diagnose(RootedSystemFacts()), doc_.language);
-    auto* dialog = new CableCheckDialog(report, doc_.language, this);
+    const RootedSystemFacts facts;
+    QString device = port_.device();
+    if (!device.isEmpty() && !device.startsWith(QLatin1Char('/')) &&
+        device != PortWithSimulator::simulatorDevice()) {
+        device.prepend(QStringLiteral("/dev/"));  // QSerialPort names ports without /dev/
+    }
+    auto diagnosis = std::make_shared<Diagnosis>(
+        diagnose(facts, device.startsWith(QLatin1Char('/')) ? QStringList{device} : QStringList{}));
+    auto* dialog =
+        new CableCheckDialog(diagnosisLines(*diagnosis, doc_.language), doc_.language, this);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
+    connect(dialog, &CableCheckDialog::probeRequested, this, [this, dialog, diagnosis, device] {
+        if (!port_.isOpen()) {
+            dialog->appendLines(
+                probeLines(reportUnopenedPort(device, port_.openErrorDetail()), doc_.language));
+            return;
+        }
+        auto* probe = new RadioProbe(transport_, dialog);
+        if (sessionRunning() || !probe->start()) {  // the link is someone else's just now
+            delete probe;
+            return;
+        }
+        dialog->setProbeEnabled(false);
+        connect(probe, &RadioProbe::finished, dialog, [this, dialog, diagnosis, device, probe] {
+            dialog->appendLines(probeLines(
+                reportProbe(device, *probe, *diagnosis, RootedSystemFacts()), doc_.language));
+            dialog->setProbeEnabled(true);
+            probe->deleteLater();
+        });
+    });
     dialog->show();
 }
 

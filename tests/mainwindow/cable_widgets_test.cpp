@@ -53,6 +53,27 @@ TEST(CableCheck, TheSetupMenuShowsTheReport) {
         dialog->findChild<QPlainTextEdit*>(QStringLiteral("CableReport"))->toPlainText();
     EXPECT_TRUE(report.startsWith(QStringLiteral("Cable check for user "))) << qPrintable(report);
     EXPECT_TRUE(report.contains(QStringLiteral("What to do:"))) << qPrintable(report);
+
+    // The radio test on the open port: the simulated radio answers.
+    auto* probe = dialog->findChild<QPushButton*>(QStringLiteral("ProbeRadio"));
+    probe->click();
+    EXPECT_FALSE(probe->isEnabled());  // one test at a time
+    ASSERT_TRUE(f.waitFor([&] { return probe->isEnabled(); }));
+    EXPECT_TRUE(dialog->reportText().contains(QStringLiteral("a radio answered")))
+        << qPrintable(dialog->reportText());
+}
+
+TEST(CableCheck, ClosingTheDialogDuringTheRadioTestFreesTheLink) {
+    WindowFixture f;
+    f.find<QAction>("CableCheck")->trigger();
+    auto* dialog = f.window->findChild<CableCheckDialog*>(QStringLiteral("CableCheck"));
+    ASSERT_NE(dialog, nullptr);
+    dialog->findChild<QPushButton*>(QStringLiteral("ProbeRadio"))->click();
+    dialog->close();
+    ASSERT_TRUE(f.waitFor([&] { return !f.window->findChild<CableCheckDialog*>(); }));
+    // The read goes ahead on the link the test held.
+    f.find<QAction>("WriteChn")->trigger();
+    EXPECT_TRUE(f.window->sessionRunning());
 }
 
 TEST(CableCheck, AFoundCableJoinsThePortListAndIsOpened) {
