@@ -194,7 +194,10 @@ QString configFilePathIn(const QString& overrideDir, const QString& programDir,
                          const QString& userConfigDir) {
     if (!overrideDir.isEmpty()) return QDir(overrideDir).filePath(kFileName);
     const QFileInfo program(programDir);
-    if (!programDir.isEmpty() && program.isDir() && program.isWritable()) {
+    // An installed program (/usr/bin) keeps no settings beside itself, even when run by root.
+    const bool installed =
+        programDir.startsWith(QLatin1String("/usr/")) || programDir == QLatin1String("/bin");
+    if (!programDir.isEmpty() && !installed && program.isDir() && program.isWritable()) {
         return QDir(programDir).filePath(kFileName);
     }
     return QDir(userConfigDir).filePath(kFileName);

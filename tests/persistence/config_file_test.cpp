@@ -206,6 +206,8 @@ TEST(ConfigLocation, OverrideThenProgramFolderThenUserFolder) {
     EXPECT_EQ(configFilePathIn(QString(), program.path(), user), program.filePath("config.ini"));
     EXPECT_EQ(configFilePathIn(QString(), program.filePath("gone"), user),
               QDir(user).filePath("config.ini"));
+    // Installed: never beside the program, even for root, who may write /usr/bin.
+    EXPECT_EQ(configFilePathIn(QString(), "/usr/bin", user), QDir(user).filePath("config.ini"));
 }
 
 }  // namespace
