@@ -22,6 +22,11 @@ struct DiagnosisCase {
     QList<Fix> fixes;
 };
 
+// The case's name is its whole description in test listings.
+void PrintTo(const DiagnosisCase& c, std::ostream* os) {
+    *os << c.name;
+}
+
 class DiagnosisTest : public ::testing::TestWithParam<DiagnosisCase> {};
 
 TEST_P(DiagnosisTest, FindsTheFaultAndItsFix) {
