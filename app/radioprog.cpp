@@ -47,10 +47,12 @@ std::optional<int> pinSimulator(QMap<int, QString>& pins) {
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("radioprog"));
+    QApplication::setApplicationVersion(QStringLiteral(RADIOPROG_VERSION));
 
     QCommandLineParser parser;
     parser.setApplicationDescription(QStringLiteral("Programs the hand-held radio's channel plan"));
     parser.addHelpOption();
+    parser.addVersionOption();
     const QCommandLineOption simulator(QStringLiteral("simulator"),
                                        QStringLiteral("add the simulated radio as port \"sim\""));
     const QCommandLineOption config(QStringLiteral("config"),

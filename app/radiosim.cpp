@@ -38,6 +38,8 @@ QString traceLine(qint64 ms, SimRadio::TraceKind kind, const QByteArray& bytes,
 
 int main(int argc, char** argv) {
     QCoreApplication application(argc, argv);
+    // One name for the three programs: the same ~/.config/radioprog and ~/.local/share/radioprog.
+    QCoreApplication::setApplicationName(QStringLiteral("radioprog"));
 
     CLI::App cli{"radiosim: a simulated radio on a pseudo-terminal"};
     bool pace = false;

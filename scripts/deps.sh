@@ -5,8 +5,11 @@ set -euo pipefail
 
 # Xvfb, xauth and a CJK font: the desktop program's screenshots and benchmark run under a
 # virtual X server, and Chinese captions must render as text rather than boxes.
+# dpkg-dev, file, help2man, lintian and desktop-file-utils: scripts/package.sh builds the
+# Debian package (dependencies, manual pages) and checks it.
 packages=(cmake ninja-build g++ pkg-config qt6-base-dev qt6-serialport-dev
-          libcli11-dev libgtest-dev xvfb xauth fonts-wqy-microhei "$@")
+          libcli11-dev libgtest-dev xvfb xauth fonts-wqy-microhei
+          dpkg-dev file help2man lintian desktop-file-utils "$@")
 
 missing=()
 for p in "${packages[@]}"; do

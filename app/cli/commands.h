@@ -41,3 +41,4 @@ void addReadCommand(CLI::App& app, const GlobalOptions& global, CommandRunner& r
 void addWriteCommand(CLI::App& app, const GlobalOptions& global, CommandRunner& run);
 void addFirmwareCommand(CLI::App& app, const GlobalOptions& global, CommandRunner& run);
 void addServiceCommand(CLI::App& app, const GlobalOptions& global, CommandRunner& run);
+void addDoctorCommand(CLI::App& app, const GlobalOptions& global, CommandRunner& run);

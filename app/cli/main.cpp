@@ -60,6 +60,7 @@ int main(int argc, char** argv) {
     addWriteCommand(app, global, run);
     addFirmwareCommand(app, global, run);
     addServiceCommand(app, global, run);
+    addDoctorCommand(app, global, run);
 
     try {
         app.parse(argc, argv);

@@ -51,6 +51,14 @@ QStringList PortCatalogue::stableOrder(QStringList devices) {
     return devices;
 }
 
+int PortCatalogue::add(const QString& device) {
+    if (const std::optional<int> known = numberOf(device)) return *known;
+    int number = 1;
+    while (byNumber_.contains(number)) ++number;
+    byNumber_.insert(number, device);
+    return number;
+}
+
 QString PortCatalogue::deviceFor(int number) const {
     if (byNumber_.contains(number)) return byNumber_.value(number);
     if (windowsNames_ && number > 0) return QStringLiteral("COM%1").arg(number);

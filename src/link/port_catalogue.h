@@ -19,6 +19,10 @@ public:
     // Orders device paths the way the catalogue numbers them.
     static QStringList stableOrder(QStringList devices);
 
+    // A device that turned up after the catalogue was made (a cable plugged in): the number it
+    // has, or the lowest free one. The numbers of the other devices stay as they were.
+    int add(const QString& device);
+
     // Empty when no device has that number.
     QString deviceFor(int number) const;
     std::optional<int> numberOf(const QString& device) const;

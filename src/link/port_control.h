@@ -24,6 +24,8 @@ public:
 
     void setLanguage(UiLanguage language) { language_ = language; }
     const PortCatalogue& catalogue() const { return catalogue_; }
+    // A device found after start-up joins the catalogue; its number.
+    int adoptDevice(const QString& device) { return catalogue_.add(device); }
 
     // (Re)opens the port on `number` at 9600,n,8,1 with both queues discarded and receive
     // events off. The error goes to the caller.

@@ -94,6 +94,7 @@ bool WriteSession::start() {
         return false;
     }
     if (!claimLink()) return false;
+    plan_ = doc_;
     transport_.startReceiving();
     view_.pauseStatusTimers();
     view_.setSessionButtonsEnabled(false);
@@ -132,7 +133,7 @@ void WriteSession::backupRead(const std::optional<RecordReadStop>& stop) {
     }
     // The radio's plan, decoded in a copy of the document so that the band and the code
     // tables it is read with are the document's.
-    Codeplug radioPlan = doc_;
+    Codeplug radioPlan = plan_;
     const QList<int> unread = decode_records(radioPlan, reader_.records());
     const QDateTime now = QDateTime::currentDateTime();
     const Result<QString> saved =
@@ -156,7 +157,7 @@ void WriteSession::verifyRead(const std::optional<RecordReadStop>& stop) {
         return;
     }
     const std::vector<RecordDifference> differences =
-        compareRecords(doc_, written_, reader_.records());
+        compareRecords(plan_, written_, reader_.records());
     if (differences.empty()) {
         successEnd();
         return;
@@ -188,13 +189,13 @@ void WriteSession::cancel() {
 }
 
 void WriteSession::sendSettings() {
-    const QByteArray frame = encode_settings(doc_);
+    const QByteArray frame = encode_settings(plan_);
     written_.settings = frame.mid(kRecordStart, kSettingsBytesCompared);
     transport_.request(frame, kReplyMs, kSettingsAttempts, {protocol::kAcknowledgeLength});
 }
 
 void WriteSession::sendChannel() {
-    const auto frame = encode_channel(doc_, channel_);
+    const auto frame = encode_channel(plan_, channel_);
     if (!frame) {
         errorEnd();
         return;

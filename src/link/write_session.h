@@ -82,6 +82,9 @@ private:
     bool reading() const { return step_ == Step::Backup || step_ == Step::Verify; }
 
     SafeWriteOptions options_;
+    // The plan as it stood when the write began. The window stays open to edits while the
+    // records go out; those wait for the next write instead of landing half in this one.
+    Codeplug plan_;
     RecordReader reader_;
     RadioRecords written_;
     Step step_ = Step::Idle;

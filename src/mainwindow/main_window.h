@@ -132,6 +132,9 @@ private:
     void portListChosen(int index);
     void scanPorts();
     void openPortPicker();
+    // The port finder named the cable's device: it joins the port list and is opened.
+    void cableFound(const QString& device);
+    void openCableCheck();
     void statusTimerTick();
 
     // Sessions and closing (main_window_session.cpp).
@@ -229,6 +232,7 @@ private:
     QAction* traceAction_ = nullptr;   // "Trace to file…"
     QAction* backupAction_ = nullptr;  // "Backup before write"
     QAction* verifyAction_ = nullptr;  // "Verify after write"
+    QAction* cableCheckAction_ = nullptr;
     std::unique_ptr<QFile> traceFile_;
     std::unique_ptr<LinkTrace> trace_;
     QAction* chineseAction_ = nullptr;

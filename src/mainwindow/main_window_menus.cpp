@@ -88,6 +88,8 @@ void MainWindow::buildMenus() {
     for (QAction* item : {backupAction_, verifyAction_}) {
         connect(item, &QAction::toggled, this, &MainWindow::rememberSafeWrite);
     }
+    cableCheckAction_ = addNamedAction(setupMenu_, "CableCheck");
+    connect(cableCheckAction_, &QAction::triggered, this, &MainWindow::openCableCheck);
     setupMenu_->addSeparator();
 
     programMenu_ = menuBar()->addMenu(QString());

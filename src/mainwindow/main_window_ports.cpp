@@ -2,7 +2,11 @@
 #include <QComboBox>
 #include <QProgressBar>
 
+#include "doctor/diagnosis.h"
+#include "doctor/radio_probe.h"
+#include "doctor/report_text.h"
 #include "l10n/window_texts.h"
+#include "mainwindow/cable_check_dialog.h"
 #include "mainwindow/main_window.h"
 #include "mainwindow/port_picker_dialog.h"
 #include "mainwindow/port_with_simulator.h"
@@ -56,11 +60,56 @@ void MainWindow::openPortPicker() {
             portControl_.comxDialogConfirmed(number);
             refreshPortViews();
         });
+        connect(portPicker_, &PortPickerDialog::cableFound, this, &MainWindow::cableFound);
     }
+    portPicker_->setLanguage(doc_.language);
     portPicker_->preselect(portControl_.comxDialogOpened());
     portPicker_->show();
     portPicker_->raise();
     portPicker_->activateWindow();
+}
+
+void MainWindow::cableFound(const QString& device) {
+    if (sessionRunning()) return;
+    const int number = portControl_.adoptDevice(device);
+    portControl_.check_uart();  // the drop-down lists the cable too
+    portControl_.selectDevice(device);
+    refreshPortViews();
+    if (portPicker_ && number < PortControl::kComxDialogItems) portPicker_->preselect(number);
+}
+
+void MainWindow::openCableCheck() {
+    const RootedSystemFacts facts;
+    QString device = port_.device();
+    if (!device.isEmpty() && !device.startsWith(QLatin1Char('/')) &&
+        device != PortWithSimulator::simulatorDevice()) {
+        device.prepend(QStringLiteral("/dev/"));  // QSerialPort names ports without /dev/
+    }
+    auto diagnosis = std::make_shared<Diagnosis>(
+        diagnose(facts, device.startsWith(QLatin1Char('/')) ? QStringList{device} : QStringList{}));
+    auto* dialog =
+        new CableCheckDialog(diagnosisLines(*diagnosis, doc_.language), doc_.language, this);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    connect(dialog, &CableCheckDialog::probeRequested, this, [this, dialog, diagnosis, device] {
+        if (!port_.isOpen()) {
+            dialog->appendLines(
+                probeLines(reportUnopenedPort(device, port_.openErrorDetail()), doc_.language));
+            return;
+        }
+        auto* probe = new RadioProbe(transport_, dialog);
+        if (sessionRunning() || !probe->start()) {  // the link is someone else's just now
+            delete probe;
+            return;
+        }
+        dialog->setProbeEnabled(false);
+        connect(probe, &RadioProbe::finished, dialog, [this, dialog, diagnosis, device, probe] {
+            dialog->appendLines(probeLines(
+                reportProbe(device, *probe, *diagnosis, RootedSystemFacts()), doc_.language));
+            dialog->setProbeEnabled(true);
+            probe->deleteLater();
+        });
+    });
+    dialog->show();
 }
 
 void MainWindow::statusTimerTick() {

@@ -46,10 +46,12 @@ void MainWindow::WidgetSessionView::setSessionButtonsEnabled(bool enabled) {
     window_.portList_->setEnabled(enabled);
     window_.scanButton_->setEnabled(enabled);
     window_.portMenu_->setEnabled(enabled);
-    // A step back or an import while a read fills the grid would be overwritten at once.
+    // A step back, a file or an import while a read fills the grid would be overwritten at once.
     window_.undoAction_->setEnabled(enabled);
     window_.redoAction_->setEnabled(enabled);
     window_.importCsvAction_->setEnabled(enabled);
+    window_.openAction_->setEnabled(enabled);
+    window_.openButton_->setEnabled(enabled);
 }
 
 void MainWindow::WidgetSessionView::showProgress(const QString& caption) {

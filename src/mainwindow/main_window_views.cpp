@@ -6,6 +6,7 @@
 #include <QPushButton>
 
 #include "l10n/csv_texts.h"
+#include "l10n/doctor_texts.h"
 #include "l10n/error_texts.h"
 #include "l10n/safe_write_texts.h"
 #include "l10n/session_texts.h"
@@ -15,6 +16,7 @@
 #include "mainwindow/custom_tone_dialog.h"
 #include "mainwindow/document_history.h"
 #include "mainwindow/main_window.h"
+#include "mainwindow/port_picker_dialog.h"
 #include "model/presets.h"
 #include "persistence/codeplug_file.h"
 #include "persistence/config_file.h"
@@ -73,6 +75,8 @@ void MainWindow::applyCaptions() {
     traceAction_->setText(l10n::sessionText(l10n::SessionText::TraceMenuItem, language));
     backupAction_->setText(l10n::safeWriteText(l10n::SafeWriteText::BackupMenuItem, language));
     verifyAction_->setText(l10n::safeWriteText(l10n::SafeWriteText::VerifyMenuItem, language));
+    cableCheckAction_->setText(l10n::doctorText(l10n::DoctorText::CableCheckItem, language));
+    if (portPicker_) portPicker_->setLanguage(language);
     programMenu_->setTitle(caption(kMenuProgram));
     readAction_->setText(caption(kMenuRead));
     writeAction_->setText(caption(kMenuWrite));

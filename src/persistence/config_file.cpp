@@ -99,7 +99,12 @@ namespace {
 // The file's profile; the error when it exists but cannot be read (then it must not be
 // rewritten either).
 Result<PrivateProfile> readProfile(const QString& configPath) {
-    if (!QFileInfo::exists(configPath)) return PrivateProfile();
+    const QFileInfo info(configPath);
+    if (!info.exists()) return PrivateProfile();
+    // A FIFO or device of that name would hold the program at start-up, waiting for bytes.
+    if (!info.isFile() && !info.isDir()) {
+        return Error::inFile(ErrorKind::NotARegularFile, configPath);
+    }
     const Result<QByteArray> content = readWholeFile(configPath);
     if (!content) return content.error();
     return PrivateProfile::fromText(decodeFileText(*content));
@@ -189,7 +194,10 @@ QString configFilePathIn(const QString& overrideDir, const QString& programDir,
                          const QString& userConfigDir) {
     if (!overrideDir.isEmpty()) return QDir(overrideDir).filePath(kFileName);
     const QFileInfo program(programDir);
-    if (!programDir.isEmpty() && program.isDir() && program.isWritable()) {
+    // An installed program (/usr/bin) keeps no settings beside itself, even when run by root.
+    const bool installed =
+        programDir.startsWith(QLatin1String("/usr/")) || programDir == QLatin1String("/bin");
+    if (!programDir.isEmpty() && !installed && program.isDir() && program.isWritable()) {
         return QDir(programDir).filePath(kFileName);
     }
     return QDir(userConfigDir).filePath(kFileName);

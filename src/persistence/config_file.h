@@ -56,7 +56,8 @@ Result<void> writeSafeWritePreferences(const QString& configPath,
                                        const SafeWritePreferences& preferences);
 
 // Where config.ini lives: `overrideDir` when given (--config), else the program's folder when it
-// is writable, else the per-user configuration folder.
+// is writable and not a system folder (/usr/bin for the installed package), else the per-user
+// configuration folder (~/.config/radioprog).
 QString configFilePath(const QString& overrideDir = QString());
 QString configFilePathIn(const QString& overrideDir, const QString& programDir,
                          const QString& userConfigDir);

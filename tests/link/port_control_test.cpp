@@ -31,6 +31,14 @@ TEST(PortCatalogue, NumbersDevicesInAStableOrderWithPinnedNumbersFirst) {
     EXPECT_EQ(catalogue.numberOf("/dev/ttyUSB9"), std::nullopt);
 }
 
+TEST(PortCatalogue, ACablePluggedInLaterTakesTheLowestFreeNumber) {
+    PortCatalogue catalogue({"/dev/ttyS0"}, {{2, "/dev/pts/3"}});
+    EXPECT_EQ(catalogue.add("/dev/ttyUSB0"), 3);
+    EXPECT_EQ(catalogue.add("/dev/ttyUSB0"), 3);  // known already
+    EXPECT_EQ(catalogue.add("/dev/pts/3"), 2);
+    EXPECT_EQ(catalogue.deviceFor(1), "/dev/ttyS0");
+}
+
 TEST(PortArgument, TellsNumbersDevicesAndTheSimulatorApart) {
     const struct {
         const char* text;

@@ -47,6 +47,19 @@ TEST_F(WriteSessionTest, WritesTheSettingsEveryChannelAndTheEnd) {
     EXPECT_TRUE(view.buttonsEnabled);
 }
 
+TEST_F(WriteSessionTest, EditsMadeWhileTheRecordsGoOutWaitForTheNextWrite) {
+    const Codeplug before = doc;
+    ASSERT_TRUE(session.start());
+    clock.advanceUntil([&] { return requestHex().size() > 3; }, kLongEnough);
+    doc.plan[20].rxfreq = doc.plan[20].txfreq = "446.50000";  // a cell edited meanwhile
+    clock.advanceUntil([&] { return !session.isRunning(); }, kLongEnough);
+    ASSERT_EQ(session.outcome(), SessionOutcome::Succeeded);
+    for (const int slot : {0, 20, 24}) {
+        const QByteArray frame = std::get<QByteArray>(encode_channel(before, slot));
+        EXPECT_EQ(radio.channelRecord(slot), frame.mid(4, frame.size() - 5)) << slot;
+    }
+}
+
 TEST_F(WriteSessionTest, WhatWasWrittenReadsBackAsTheSamePlan) {
     ASSERT_TRUE(switchMode(doc, 1));  // the professional list, with inverted and custom codes
     doc.plan[2].rxctc = kCdcssText;   // a 13-byte record

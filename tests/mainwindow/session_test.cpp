@@ -95,6 +95,8 @@ TEST(Sessions, ClosingTheProgressWindowCancelsARead) {
     ASSERT_TRUE(f.waitFor([&] { return progress->bar().value() >= 9; }));
     EXPECT_FALSE(f.find<QComboBox>("Combo18")->isEnabled());  // the port stays while in use
     EXPECT_FALSE(f.find<QPushButton>("Command3")->isEnabled());
+    EXPECT_FALSE(f.find<QPushButton>("Command5")->isEnabled());  // no file over a read
+    EXPECT_FALSE(f.find<QAction>("MenuFileOpen")->isEnabled());
     progress->close();
     EXPECT_FALSE(f.window->sessionRunning());
     EXPECT_EQ(f.prompts.boxTexts(), QStringList{"Read Error"});
@@ -102,6 +104,7 @@ TEST(Sessions, ClosingTheProgressWindowCancelsARead) {
     EXPECT_FALSE(progress->isVisible());
     EXPECT_TRUE(f.port.isOpen());
     EXPECT_TRUE(f.find<QComboBox>("Combo18")->isEnabled());
+    EXPECT_TRUE(f.find<QAction>("MenuFileOpen")->isEnabled());
 
     // Nothing half-sent is left behind: the next read runs to its end.
     f.port.setSimulatorPacing(false);

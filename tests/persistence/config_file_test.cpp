@@ -1,6 +1,7 @@
 #include "persistence/config_file.h"
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <QDir>
 #include <QFile>
@@ -139,8 +140,17 @@ TEST_F(ConfigFileTest, AFileThatCannotBeReadIsNeverOverwritten) {
     ASSERT_TRUE(QDir().mkpath(path_));  // a folder where the file should be
     const StartupConfig config = ReadConfigFile(path_);
     EXPECT_EQ(config.maxch, QStringLiteral("22"));
+    EXPECT_TRUE(config.unreadable.has_value());
     EXPECT_TRUE(QFileInfo(path_).isDir());
     EXPECT_FALSE(WriteConfigFile(path_, "Lang", UiLanguage::English));
+}
+
+TEST_F(ConfigFileTest, AFifoOfThatNameIsReportedNotWaitedOn) {
+    ASSERT_EQ(mkfifo(QFile::encodeName(path_).constData(), 0600), 0);
+    const StartupConfig config = ReadConfigFile(path_);  // would block if it opened the FIFO
+    ASSERT_TRUE(config.unreadable.has_value());
+    EXPECT_EQ(config.unreadable->kind, ErrorKind::NotARegularFile);
+    EXPECT_EQ(config.maxch, QStringLiteral("22"));
 }
 
 TEST_F(ConfigFileTest, LanguageSwitchWritesOnlyLang) {
@@ -196,6 +206,8 @@ TEST(ConfigLocation, OverrideThenProgramFolderThenUserFolder) {
     EXPECT_EQ(configFilePathIn(QString(), program.path(), user), program.filePath("config.ini"));
     EXPECT_EQ(configFilePathIn(QString(), program.filePath("gone"), user),
               QDir(user).filePath("config.ini"));
+    // Installed: never beside the program, even for root, who may write /usr/bin.
+    EXPECT_EQ(configFilePathIn(QString(), "/usr/bin", user), QDir(user).filePath("config.ini"));
 }
 
 }  // namespace
