@@ -168,44 +168,44 @@ void MainWindow::openBootLoader() {
     bootLoaderWindow_->activateWindow();
 }
 
-void MainWindow::openCrystalWindow() {
+// The engineering windows share the one service channel; its messages speak the language the
+// document has now, which a file load may have changed since the last switch.
+template <typename Window, typename... Args>
+void MainWindow::openEngineering(QPointer<Window>& window, Args&... args) {
     serviceChannel_.setLanguage(doc_.language);
-    showOnce(crystalWindow_, this, serviceChannel_);
+    showOnce(window, this, serviceChannel_, args...);
+}
+
+void MainWindow::openCrystalWindow() {
+    openEngineering(crystalWindow_);
 }
 
 void MainWindow::openRegisterWindow() {
-    serviceChannel_.setLanguage(doc_.language);
-    showOnce(registerWindow_, this, serviceChannel_, prompts_);
+    openEngineering(registerWindow_, prompts_);
 }
 
 void MainWindow::openIdentityWindow() {
-    serviceChannel_.setLanguage(doc_.language);
-    showOnce(identityWindow_, this, serviceChannel_);
+    openEngineering(identityWindow_);
 }
 
 void MainWindow::openTestModeWindow() {
-    serviceChannel_.setLanguage(doc_.language);
-    showOnce(testModeWindow_, this, serviceChannel_);
+    openEngineering(testModeWindow_);
 }
 
 void MainWindow::openCalibrationWindow() {
-    serviceChannel_.setLanguage(doc_.language);
-    showOnce(calibrationWindow_, this, serviceChannel_, prompts_);
+    openEngineering(calibrationWindow_, prompts_);
 }
 
 void MainWindow::openHardwareWindow() {
-    serviceChannel_.setLanguage(doc_.language);
-    showOnce(hardwareWindow_, this, serviceChannel_);
+    openEngineering(hardwareWindow_);
 }
 
 void MainWindow::openVolumeWindow() {
-    serviceChannel_.setLanguage(doc_.language);
-    showOnce(volumeWindow_, this, serviceChannel_);
+    openEngineering(volumeWindow_);
 }
 
 void MainWindow::openPlayerWindow() {
-    serviceChannel_.setLanguage(doc_.language);
-    showOnce(playerWindow_, this, serviceChannel_);
+    openEngineering(playerWindow_);
 }
 
 void MainWindow::startUp(const std::optional<int>& portToSelect) {

@@ -150,6 +150,8 @@ private:
     void openPlayerWindow();
     void openIdentityWindow();
     void openTestModeWindow();
+    template <typename Window, typename... Args>
+    void openEngineering(QPointer<Window>& window, Args&... args);
     void startWrite();
     // The Setup menu's backup and verify items, written to config.ini.
     void rememberSafeWrite();
