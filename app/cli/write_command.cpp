@@ -24,11 +24,7 @@ void reportBackup(const QString& path, const QList<int>& unread, UiLanguage lang
     QTextStream(stdout) << l10n::safeWriteText(l10n::SafeWriteText::BackupSaved, language).arg(path)
                         << '\n';
     if (unread.isEmpty()) return;
-    QStringList channels;
-    for (int channel : unread) channels << QString::number(channel);
-    QTextStream(stderr) << "radioprog-cli: "
-                        << l10n::safeWriteText(l10n::SafeWriteText::BackupChannelsUnread, language)
-                               .arg(channels.join(QStringLiteral(", ")))
+    QTextStream(stderr) << "radioprog-cli: " << l10n::backupChannelsUnread(unread, language)
                         << '\n';
 }
 

@@ -46,4 +46,12 @@ QString safeWriteText(SafeWriteText id, UiLanguage language) {
     return lookUp(kSafeWriteTexts, static_cast<int>(id), language);
 }
 
+QString backupChannelsUnread(const QList<int>& channels, UiLanguage language) {
+    if (channels.isEmpty()) return {};
+    QStringList numbers;
+    for (int channel : channels) numbers << QString::number(channel);
+    return safeWriteText(SafeWriteText::BackupChannelsUnread, language)
+        .arg(numbers.join(QStringLiteral(", ")));
+}
+
 }  // namespace l10n

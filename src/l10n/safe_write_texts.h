@@ -1,6 +1,8 @@
 #pragma once
 
+#include <QList>
 #include <QString>
+#include <QStringList>
 
 #include "l10n/language.h"
 
@@ -35,5 +37,8 @@ enum class SafeWriteText {
 };
 
 QString safeWriteText(SafeWriteText id, UiLanguage language);
+
+// The line naming the channels (1-based) a backup had to leave empty; empty when there are none.
+QString backupChannelsUnread(const QList<int>& channels, UiLanguage language);
 
 }  // namespace l10n

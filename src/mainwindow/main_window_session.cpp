@@ -97,11 +97,16 @@ void MainWindow::startWrite() {
     progress_->bar().setRange(0, WriteSession::progressGoal(safety));
     auto session =
         std::make_unique<WriteSession>(transport_, doc_, statusRelay_, sessionView_, safety);
-    connect(session.get(), &WriteSession::backupSaved, this, [this](const QString& path) {
-        statusBar()->showMessage(
-            l10n::safeWriteText(l10n::SafeWriteText::BackupSaved, doc_.language).arg(path),
-            kBackupNoteMs);
-    });
+    connect(session.get(), &WriteSession::backupSaved, this,
+            [this](const QString& path, const QList<int>& unread) {
+                QString note =
+                    l10n::safeWriteText(l10n::SafeWriteText::BackupSaved, doc_.language).arg(path);
+                // Channels the radio's records could not be read as stay empty in the backup.
+                if (!unread.isEmpty()) {
+                    note += QLatin1Char(' ') + l10n::backupChannelsUnread(unread, doc_.language);
+                }
+                statusBar()->showMessage(note, kBackupNoteMs);
+            });
     startSession(std::move(session));
 }
 
