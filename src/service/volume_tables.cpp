@@ -66,8 +66,8 @@ void decodeLevels(const QByteArray& record, LevelValues* values) {
     }
 }
 
-int levelSliderPosition(LevelTable table, int value) {
-    return std::clamp(value, levelLayout(table).sliderMin, levelLayout(table).sliderMax);
+SliderScale levelSliderScale(LevelTable table) {
+    return {levelLayout(table).sliderMin, levelLayout(table).sliderMax, 0};
 }
 
 LevelWrite levelWriteRequest(const LevelValues& values, const RequestSelectors& selectors,

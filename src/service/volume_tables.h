@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "l10n/language.h"
+#include "service/field_value.h"
 #include "service/service_request.h"
 #include "service/value_lines.h"
 
@@ -42,8 +43,8 @@ QByteArray levelReadRequest(LevelTable table, const RequestSelectors& selectors)
 int levelRecordSize(LevelTable table);
 // A reply's record into the boxes. Values outside a slider's range are shown as received.
 void decodeLevels(const QByteArray& record, LevelValues* values);
-// Where the slider stands for a box's value: clamped to its range.
-int levelSliderPosition(LevelTable table, int value);
+// The sliders' scale: whole numbers, a box's value clamped to the range.
+SliderScale levelSliderScale(LevelTable table);
 
 // The write request, [0x5C, 12, block, sub, ten bytes] or [0x6A, 11, block, sub, 0, eight
 // bytes], or the refusal naming the first box that does not hold a number 0..255.

@@ -157,9 +157,9 @@ TEST(LevelTables, RepliesFillTheBoxesInRecordOrder) {
         decodeLevels(QByteArray::fromHex(c.reply), &values);
         EXPECT_EQ(values.text, c.shown);
     }
-    EXPECT_EQ(levelSliderPosition(LevelTable::Volume, 255), 63);
-    EXPECT_EQ(levelSliderPosition(LevelTable::Player, 255), 31);
-    EXPECT_EQ(levelSliderPosition(LevelTable::Player, 0), 1);
+    EXPECT_EQ(levelSliderScale(LevelTable::Volume).position("255"), 63);
+    EXPECT_EQ(levelSliderScale(LevelTable::Player).position("255"), 31);
+    EXPECT_EQ(levelSliderScale(LevelTable::Player).position("0"), 1);
 }
 
 TEST(LevelTables, AWriteIsRefusedNamingTheFirstBoxThatDoesNotFit) {

@@ -6,12 +6,10 @@
 #include "service/volume_tables.h"
 
 class QGridLayout;
-class QLineEdit;
-class QScrollBar;
+class SliderBox;
 
-// The slider and text box of each value of a level table, over the panel's values: the box
-// shows its slider's value, a number typed into the box moves the slider (clamped to its
-// range), and the write sends the boxes as typed.
+// The slider and text box of each value of a level table, over the panel's values: the panel
+// holds what the boxes hold, and the write sends the boxes as typed.
 class LevelRows : public QObject {
     Q_OBJECT
 
@@ -24,9 +22,6 @@ public:
     void showValues();
 
 private:
-    void edited(size_t field, const QString& text);
-
     LevelValues& values_;
-    std::vector<QScrollBar*> sliders_;  // HScrolln, by field
-    std::vector<QLineEdit*> boxes_;     // Textn, by field
+    std::vector<SliderBox*> rows_;  // HScrolln and Textn, by field
 };
